@@ -1,0 +1,31 @@
+# Extension tag and architecture of the build, and the choice between sources of one platform.
+
+if(WIN32)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    set(ZEX_PLATFORM_TAG zexw64)
+    set(ZEX_ARCH win64)
+  else()
+    set(ZEX_PLATFORM_TAG zexw32)
+    set(ZEX_ARCH win32)
+  endif()
+elseif(APPLE)
+  set(ZEX_PLATFORM_TAG zexmaci64)
+  set(ZEX_ARCH maci64)
+else()
+  set(ZEX_PLATFORM_TAG zexa64)
+  set(ZEX_ARCH glnxa64)
+endif()
+
+# The tree that runs in place; `cmake --install` writes the same one to a prefix.
+set(ZEX_TREE ${CMAKE_BINARY_DIR}/tessel)
+set(ZEX_TREE_BIN ${ZEX_TREE}/bin/${ZEX_ARCH})
+
+# Drops from a list of sources those whose name ends in the suffix of another platform.
+function(zex_keep_platform_sources list)
+  if(WIN32)
+    list(FILTER ${list} EXCLUDE REGEX "_posix\\.cpp$")
+  else()
+    list(FILTER ${list} EXCLUDE REGEX "_windows\\.cpp$")
+  endif()
+  set(${list} ${${list}} PARENT_SCOPE)
+endfunction()

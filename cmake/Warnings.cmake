@@ -1,0 +1,11 @@
+# Warnings are errors in all of our own code; the sanitizers are a choice of the whole build.
+
+add_library(zex_warnings INTERFACE)
+if(NOT MSVC)
+  target_compile_options(zex_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+endif()
+
+if(ZEX_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "fl/ustring.hpp"
+#include "foundation/core/except/IException.hpp"
+#include "host/visibility.hpp"
+#include "resource_core/BaseMsgID.hpp"
+
+class Tdispatcher;
+
+namespace foundation::usm {
+class Store;
+}
+
+namespace host {
+
+/// How a shell line ended.
+struct ShellResult {
+  std::int32_t status = -1;  ///< exit status, 128 + n for death by signal n, or the system's error number
+  fl::ustring text;          ///< what the line itself printed
+};
+
+/// All that depends on who hosts the driver. A program that embeds the driver derives its own and installs it;
+/// without one the stand-alone services for a shell are in force.
+class ZEXHOST_API Services {
+ public:
+  Services();
+  virtual ~Services();
+  Services(const Services&) = delete;
+  Services& operator=(const Services&) = delete;
+
+  /// Text for the user's output channel, in the native 8-bit encoding.
+  virtual void write(std::string_view text) = 0;
+  /// Whether that channel can show links and bold text.
+  virtual bool outputIsHot() const = 0;
+  virtual void showWarning(const resource_core::BaseMsgID& record) = 0;
+  /// Told of every error just before it is thrown.
+  virtual void noteError(const foundation::core::except::IUserException& error) = 0;
+
+  /// Root of the installed tree.
+  virtual fl::ustring installFolder() const = 0;
+  virtual fl::ustring preferencesFolder(bool create) const = 0;
+  /// Name of the locale for messages, such as "en".
+  virtual std::string locale() const = 0;
+
+  /// The dispatcher of loaded functions, or null.
+  virtual Tdispatcher* dispatcher() = 0;
+
+  /// Runs one line through the system's shell and waits for its end, without a time limit. Standard input is
+  /// empty. `calledFromHost` says that the host asked for the command on its own behalf.
+  virtual ShellResult runShellLine(const fl::ustring& line, bool calledFromHost) = 0;
+
+  /// The keyed store of the virtual machine that these services stand for. It lives as long as they do.
+  foundation::usm::Store& store() { return *store_; }
+
+ private:
+  std::unique_ptr<foundation::usm::Store> store_;
+};
+
+/// The services in force.
+ZEXHOST_API Services& services();
+
+/// Puts services in force and gives those that were there before; null stands for the stand-alone ones. The caller
+/// keeps ownership and must outlive the use.
+ZEXHOST_API Services* installServices(Services* services);
+
+}  // namespace host

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "cmd/messages/Exception.hpp"
+#include "cmd/messages/errors.hpp"
+#include "zx/errors.hpp"
+
+namespace zex_cmd {
+
+/// Offers the failure to the host and then throws it. The throw is a copy of what the host saw, with the id
+/// stored.
+template <class Tag>
+[[noreturn]] void raiseTyped(const msg::ErrorRecord<Tag>& record) {
+  using Failure = foundation::core::except::Exception<Tag, std::exception, void>;
+  const Failure offered(record);
+  const std::string errorId = Failure::get_error_id(record);
+  matrix::detail::do_legacy_zx_error(offered);
+  throw Failure(offered, errorId);
+}
+
+/// Turns the file system failure in flight into a message about `path`. Call it inside a catch clause for
+/// `fl::filesystem::FsysExceptionBase`; a type that it does not know keeps flying.
+[[noreturn]] void translateFilesystemError(const ustring& path);
+
+}  // namespace zex_cmd

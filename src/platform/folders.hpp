@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+#include "fl/ustring.hpp"
+
+namespace zex_cmd {
+
+using fl::ustring;
+
+/// The folder that "TESSEL_PREFDIR" names, if it is there; else the host's preferences folder.
+ustring preferencesFolder();
+
+/// Whether a path, or the folder of a path that is no folder, is the preferences folder. Compares texts exactly.
+bool isInPreferencesFolder(const ustring& path);
+
+bool existsInFolder(const ustring& name, const ustring& folder);
+
+/// Tried by making a file there and removing it.
+bool canWriteToFolder(const ustring& path, bool mustBeFolder);
+
+void makeOwnerWritable(const ustring& path);
+
+/// Renames `from` to `to`, removing what is there first.
+void replaceFile(const ustring& from, const ustring& to);
+
+/// Folder of the option documents for an architecture, in the installed tree.
+ustring systemOptionsFolder(const ustring& architecture);
+
+}  // namespace zex_cmd

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "fl/ustring.hpp"
+
+namespace zex_cmd {
+
+using fl::ustring;
+
+/// True where the text begins and ends with a double quote; one lone quote counts.
+bool isQuoted(const ustring& text);
+
+/// The text without the double quotes around it, if it has both. A lone quote becomes empty.
+ustring withoutQuotes(const ustring& text);
+
+/// In double quotes, unless it already begins and ends with one.
+ustring quoteAlways(const ustring& text);
+
+/// In double quotes if a blank, "(", ")" or "&" stands outside the quotes that the text has.
+ustring quoteWhenNeeded(const ustring& text);
+
+/// In single quotes if the text holds a blank, "=", "(" or ")".
+ustring quoteForPosix(const ustring& text);
+
+}  // namespace zex_cmd

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/Services.hpp"
+
+namespace zex_test {
+
+/// A host that records what the driver tells it. In force from construction to destruction, with a keyed store of
+/// its own, so that no test sees what another left behind. Messages are rendered in the pseudo-locale "id".
+class RecordingServices : public host::Services {
+ public:
+  RecordingServices();
+  ~RecordingServices() override;
+
+  std::string output;                 ///< all that was written
+  std::vector<std::string> warnings;  ///< rendered in the pseudo-locale
+  std::vector<std::string> errors;    ///< identifiers of the errors that were announced
+  bool hot = false;
+  fl::ustring install;      ///< install folder that the host tells
+  fl::ustring preferences;  ///< preferences folder that the host tells
+  Tdispatcher* dispatch = nullptr;
+  std::vector<std::string> shellLines;  ///< lines given to the shell; they really run
+
+  void write(std::string_view text) override { output += text; }
+  bool outputIsHot() const override { return hot; }
+  void showWarning(const resource_core::BaseMsgID& record) override;
+  void noteError(const foundation::core::except::IUserException& error) override;
+  fl::ustring installFolder() const override { return install; }
+  fl::ustring preferencesFolder(bool) const override { return preferences; }
+  std::string locale() const override { return "id"; }
+  Tdispatcher* dispatcher() override { return dispatch; }
+  host::ShellResult runShellLine(const fl::ustring& line, bool calledFromHost) override;
+
+ private:
+  host::Services* previous_;
+};
+
+/// What an action throws, rendered in the pseudo-locale, as in `TESSEL:zex:UnknownSwitch("-x")`; "no error" where
+/// it throws nothing. An exception without an identifier gives its text.
+template <class Action>
+std::string failureOf(Action&& action);
+
+std::string renderedFailure(const foundation::core::except::IMsgIDException& failure);
+
+template <class Action>
+std::string failureOf(Action&& action) {
+  try {
+    std::forward<Action>(action)();
+  } catch (const foundation::core::except::IMsgIDException& failure) {
+    return renderedFailure(failure);
+  } catch (const std::exception& failure) {
+    return failure.what();
+  }
+  return "no error";
+}
+
+}  // namespace zex_test

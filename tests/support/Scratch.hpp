@@ -1,0 +1,47 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "fl/ustring.hpp"
+
+namespace zex_test {
+
+/// A fresh folder that is the current one while the object lives, and is removed after. Holds a blank and a letter
+/// outside ASCII in its path, so that every test meets them.
+class Scratch {
+ public:
+  Scratch();
+  ~Scratch();
+  Scratch(const Scratch&) = delete;
+  Scratch& operator=(const Scratch&) = delete;
+
+  const std::filesystem::path& folder() const { return folder_; }
+  fl::ustring path(const std::string& name = {}) const;  ///< full path of a name below the folder
+
+  void write(const std::string& name, const std::string& content) const;  ///< makes parent folders too
+  std::string read(const std::string& name) const;
+  bool has(const std::string& name) const;
+  std::vector<std::string> names(const std::string& below = ".") const;  ///< sorted entries of a folder
+
+ private:
+  std::filesystem::path former_;
+  std::filesystem::path folder_;
+};
+
+/// Sets an environment variable for the length of a scope; null unsets it.
+class ScopedVariable {
+ public:
+  ScopedVariable(std::string name, const char* value);
+  ~ScopedVariable();
+  ScopedVariable(const ScopedVariable&) = delete;
+  ScopedVariable& operator=(const ScopedVariable&) = delete;
+
+ private:
+  std::string name_;
+  bool wasSet_;
+  std::string former_;
+};
+
+}  // namespace zex_test
