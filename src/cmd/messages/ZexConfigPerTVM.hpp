@@ -23,9 +23,6 @@ void resetReportBuffers();
 /// Verbose text: printed or buffered, as the flags say; dropped when `text` is empty or verbose output is off.
 void logVerbose(const ustring& text, bool addNewline);
 
-/// Whether `logVerbose` would look at a text: lets a caller skip the rendering.
-bool verboseEnabled();
-
 /// Renders a record for `logVerbose`, if anyone looks.
 void logMessage(const MessageRecord& record, bool addNewline);
 

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <boost/shared_ptr.hpp>
+#include <string>
+#include <vector>
+
+#include "cmd/ZexCmdI.hpp"
+
+namespace zex_cmd {
+
+using fl::ustring;
+
+class ZexArgs;
+class ZexCompilers;
+
+/// Routes each command to help, the Ada builder, the compiler setup or a build.
+class Zex : public ZexCmdI {
+ public:
+  void run(const std::vector<ustring>& arguments) override;
+  std::vector<CompilerRecord> queryCompilers(const std::string& language, const std::string& kind,
+                                             const std::string& architecture) override;
+  ~Zex() override = default;
+
+ private:
+  void build();
+
+  boost::shared_ptr<ZexArgs> args_;  ///< record of the latest command; empty until the first
+  boost::shared_ptr<ZexCompilers>
+      compilers_;  ///< catalogue of the latest command that got past parsing; points to args_
+};
+
+}  // namespace zex_cmd

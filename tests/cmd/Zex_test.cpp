@@ -1,0 +1,76 @@
+#include "cmd/Zex.hpp"
+
+#include <gtest/gtest.h>
+
+#include "cmd/ZexCmdFactory.hpp"
+#include "support/InstalledTree.hpp"
+
+namespace zex_cmd {
+namespace {
+
+using zex_test::Document;
+using zex_test::failureOf;
+using zex_test::InstalledTree;
+
+class Commands : public testing::Test {
+ protected:
+  Commands() {
+    tree.offer("fake.xml", Document());
+    tree.scratch.write("a.c", "");
+    tree.scratch.write("bad.c", "FAIL");
+  }
+
+  std::string run(const std::vector<ustring>& arguments) {
+    return failureOf([&] { zex.run(arguments); });
+  }
+
+  InstalledTree tree;
+  Zex zex;
+};
+
+TEST_F(Commands, ABuildLeavesNothingButItsProduct) {
+  const std::vector<std::string> before = tree.scratch.names();
+  EXPECT_EQ(run({u"a.c"}), "no error");
+  tree.toolLog();
+  std::vector<std::string> after = tree.scratch.names();
+  EXPECT_EQ(std::erase(after, "a.zexa64"), 1U);
+  EXPECT_EQ(after, before);
+  EXPECT_TRUE(tree.scratch.names("tmp").empty());
+}
+
+TEST_F(Commands, FailuresLeaveNothingAndNoTraceInTheNextCommand) {
+  EXPECT_EQ(run({u"bad.c", u"-g", u"-v"}), "TESSEL:zex:Error(\"out\\n\\nbad source\\n\")");
+  EXPECT_TRUE(tree.scratch.names("tmp").empty());
+  EXPECT_FALSE(tree.scratch.has("bad.zexa64"));
+  tree.toolLog();
+  tree.host.output.clear();
+  EXPECT_EQ(run({u"a.c"}), "no error");
+  EXPECT_EQ(tree.toolLog().find("-g"), std::string::npos);
+  EXPECT_EQ(tree.host.output, "TESSEL:zex:Building(\"Fake C\")\nTESSEL:zex:Complete\n");
+  EXPECT_EQ(run({}), "TESSEL:legacy_two_part:minrhs");
+}
+
+TEST_F(Commands, TemporaryFolderGoesWhereTheAssignmentSays) {
+  EXPECT_EQ(run({u"a.c", u"TEMP=\"my temp\"", u"-n", u"-silent"}), "no error");
+  EXPECT_NE(tree.host.output.find("-o \"my temp/zex_"), std::string::npos);
+  EXPECT_TRUE(tree.scratch.names("my temp").empty());
+}
+
+TEST_F(Commands, OptionsFileTellsTheLanguageOfTheVersionSource) {
+  Document document;
+  document.language = "c++";
+  tree.scratch.write("given.xml", document.xml());
+  EXPECT_EQ(run({u"a.c", u"-f", u"given.xml"}), "no error");
+  EXPECT_NE(tree.toolLog().find("cpp_zexapi_version.cpp"), std::string::npos);
+}
+
+TEST_F(Commands, RoutesThatAreNotThereFailClearly) {
+  for (const ustring word : {u"-help", u"-h", u"-ada", u"-setup"}) {
+    EXPECT_EQ(run({u"a.c", word}).substr(0, 16), "TESSEL:zex:Error");
+  }
+  EXPECT_EQ(run({u"-H"}), "TESSEL:zex:UnknownSwitch(\"-H\")");
+  EXPECT_EQ(run({u"-ADA"}), "TESSEL:zex:UnknownSwitch(\"-ADA\")");
+}
+
+}  // namespace
+}  // namespace zex_cmd
