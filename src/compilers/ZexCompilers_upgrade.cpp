@@ -1,0 +1,96 @@
+#include <algorithm>
+
+#include "args/ZexArgs.hpp"
+#include "cmd/messages/show.hpp"
+#include "cmd/messages/warnings.hpp"
+#include "compilers/ZexCompilers.hpp"
+#include "compilers/opt_lists.hpp"
+#include "fl/filesystem/operations.hpp"
+#include "fl/filesystem/path_names.hpp"
+#include "fl/i18n/strings.hpp"
+#include "options/ZexOpt.hpp"
+#include "platform/folders.hpp"
+
+namespace zex_cmd {
+
+namespace fs = fl::filesystem;
+using fl::i18n::lcctype;
+
+namespace {
+
+ustring upperLanguage(const ZexOpt& opt) {
+  return lcctype::transform(opt.attribute(u"LANGUAGE"), fl::i18n::to_upper);
+}
+
+}  // namespace
+
+bool ZexCompilers::needsUpgrade(const ZexOpt& opt) const {
+  const ustring path = opt.attribute(u"ZEXOPT");
+  const ustring folder = fs::detail::make_native_form(fs::detail::remove_filename(path));
+  const ustring name = fs::detail::make_native_form(fs::detail::extract_filename(path));
+  // The name alone counts: a document of the current folder is treated as its twin in the preferences folder.
+  const bool inPreferences = existsInFolder(name, preferencesFolder());
+  if (folder == fs::get_current_path() && !inPreferences) return false;
+  if (!args().optionsFile.empty()) return false;
+  return inPreferences && !opt.currentRelease;
+}
+
+boost::shared_ptr<ZexOpt> ZexCompilers::upgradeOpt(const boost::shared_ptr<ZexOpt>& opt) {
+  boost::shared_ptr<ZexOpt> replacement = findReplacementOpt(opt);
+  writeSelectedFile(*replacement);
+  opt->selected = false;
+  replacement->currentRelease = true;
+  replacement->selected = true;
+  return replacement;
+}
+
+bool ZexCompilers::keepsDocument(const ZexOpt& opt) const {
+  if (isUnsupportedCompiler(opt)) return true;
+  if (args().setupArgument.empty()) return false;
+  if (!isInPreferencesFolder(opt.attribute(u"ZEXOPT"))) return true;
+  return !args().optionsFile.empty() && !isInPreferencesFolder(args().optionsFile);
+}
+
+boost::shared_ptr<ZexOpt> ZexCompilers::findReplacementOpt(const boost::shared_ptr<ZexOpt>& opt) {
+  if (keepsDocument(*opt)) return opt;
+
+  const std::string language = fl::i18n::to_string(upperLanguage(*opt));
+  const ZexOptList catalogue = findCatalogueOpts(language, {}, false);
+  boost::shared_ptr<ZexOpt> source = findOptByField(catalogue, u"SHORTNAME", opt->attribute(u"SHORTNAME"));
+  if (!source) {
+    source = lowestPriorityOpt(catalogue);
+    if (source) {
+      emitWarning(msg::UnsupportedCompiler(opt->attribute(u"NAME")));
+    } else {
+      emitWarning(msg::NoAlternativeCompilerFound(opt->attribute(u"NAME")));
+      source = opt;
+    }
+  }
+  return readOpt(source->attribute(u"ZEXOPT"), language, {});
+}
+
+bool ZexCompilers::isUnsupportedCompiler(const ZexOpt& opt) const {
+  const auto lower = [](const ustring& text) { return lcctype::transform(text, fl::i18n::to_lower); };
+  const ustring name = lower(opt.attribute(u"SHORTNAME"));
+  return std::any_of(unsupportedCompilers_.begin(), unsupportedCompilers_.end(),
+                     [&](const ustring& unsupported) { return lower(unsupported) == name; });
+}
+
+ustring ZexCompilers::selectedFileName(const ZexOpt& opt) const {
+  const ustring prefix = args().client.empty() ? ustring(u"zex") : fl::i18n::to_ustring(args().client);
+  return fs::upath_constant::PATHNAME_SEPARATOR + prefix + u"_" + upperLanguage(opt) + u"_" +
+         fl::i18n::to_ustring(args().arch) + u".xml";
+}
+
+void ZexCompilers::writeSelectedFile(ZexOpt& opt) const {
+  const ustring& optionsFile = args().optionsFile;
+  ustring target = optionsFile;
+  if (args().setupArgument.empty() || optionsFile.empty()) {
+    target = preferencesFolder() + selectedFileName(opt);
+  } else if (fs::is_directory(fs::status(optionsFile))) {
+    target = optionsFile + selectedFileName(opt);
+  }
+  opt.writeSelected(target);
+}
+
+}  // namespace zex_cmd

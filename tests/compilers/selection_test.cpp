@@ -1,0 +1,185 @@
+#include <gtest/gtest.h>
+
+#include <boost/make_shared.hpp>
+
+#include "args/ZexArgs.hpp"
+#include "cmd/messages/ZexConfigPerTVM.hpp"
+#include "compilers/ZexCompilers.hpp"
+#include "compilers/ZexSelectedOptsPerTVM.hpp"
+#include "fl/i18n/strings.hpp"
+#include "options/ZexOpt.hpp"
+#include "support/InstalledTree.hpp"
+
+namespace zex_cmd {
+namespace {
+
+using zex_test::Document;
+using zex_test::failureOf;
+using zex_test::InstalledTree;
+
+class Selection : public testing::Test {
+ protected:
+  Selection() { args->languages = {"C"}; }
+
+  static Document compiler(const std::string& name, const std::string& priority, bool installed = true) {
+    Document document;
+    document.name = name;
+    document.shortName = "short " + name;
+    document.priority = priority;
+    document.installed = installed;
+    return document;
+  }
+
+  /// Name of the selected compiler for one command, or the failure.
+  std::string selected() {
+    ZexCompilers compilers(&args);
+    std::string name;
+    const std::string failure =
+        failureOf([&] { name = fl::i18n::to_string(compilers.getSelectedOpt()->attribute(u"NAME")); });
+    return failure == "no error" ? name : failure;
+  }
+
+  InstalledTree tree;
+  boost::shared_ptr<ZexArgs> args = boost::make_shared<ZexArgs>();
+};
+
+TEST_F(Selection, ImplicitChoiceFollowsThePriorityText) {
+  struct Case {
+    const char* what;
+    std::vector<Document> catalogue;
+    const char* expected;
+  };
+  const Case cases[] = {
+      {"least text", {compiler("1", "B"), compiler("2", "A")}, "2"},
+      {"not numbers", {compiler("1", "9"), compiler("2", "10")}, "2"},
+      {"tie: first", {compiler("1", "A"), compiler("2", "A")}, "1"},
+      {"at the ceiling: first", {compiler("1", "zzzzzzzzz"), compiler("2", "zzzzzzzzz")}, "1"},
+      {"empty beats all", {compiler("1", "A"), compiler("2", "")}, "2"},
+      {"not installed", {compiler("1", "A", false), compiler("2", "B")}, "2"},
+      {"only one", {compiler("1", "~~~~~~~~~~")}, "1"},
+      {"none", {}, "TESSEL:zex:NoCompilerFound_Win64"},
+  };
+  for (const Case& row : cases) {
+    const InstalledTree fresh;
+    int index = 0;
+    for (const Document& document : row.catalogue) fresh.offer(std::to_string(index++) + ".xml", document);
+    EXPECT_EQ(selected(), row.expected) << row.what;
+  }
+}
+
+TEST_F(Selection, SelectedFileWinsEvenIfItsCompilerIsGone) {
+  tree.offer("a.xml", compiler("listed", "A"));
+  tree.scratch.write("prefs/zex_C_glnxa64.xml", compiler("chosen", "Z").xml());
+  EXPECT_EQ(selected(), "chosen");
+  tree.scratch.write("prefs/zex_C_glnxa64.xml", compiler("chosen", "Z", false).xml());
+  EXPECT_EQ(selected(), "TESSEL:zex:NoCompilerFound_Win64");
+  EXPECT_EQ(tree.host.warnings, std::vector<std::string>{"TESSEL:zex:Warn(\"Install chosen.\\n\")"});
+}
+
+TEST_F(Selection, NoCompilerErrorDependsOnLanguagesAndLinks) {
+  args->languages = {"C", "FORTRAN"};
+  EXPECT_EQ(selected(), "TESSEL:zex:NoCompilerFound");
+  tree.host.hot = true;
+  EXPECT_EQ(selected(), "TESSEL:zex:NoCompilerFound_link");
+  args->languages = {"C++"};
+  EXPECT_EQ(selected(), "TESSEL:zex:NoCompilerFound_link_Win64");
+}
+
+TEST_F(Selection, ASecondCommandRemembersTheImplicitChoice) {
+  ZexConfigPerTVM::current().verboseEnabled = ZexConfigPerTVM::current().verboseEcho = true;
+  tree.offer("b.xml", compiler("first", "B"));
+  EXPECT_EQ(selected(), "first");
+  EXPECT_NE(tree.host.output.find("TESSEL:zex:LookforImplicitSel\n"), std::string::npos);
+  tree.host.output.clear();
+  tree.offer("a.xml", compiler("better", "A"));
+  EXPECT_EQ(selected(), "first");
+  EXPECT_EQ(tree.host.output.find("LookforImplicitSel"), std::string::npos);
+}
+
+TEST_F(Selection, AFailedChoiceIsNotRemembered) {
+  EXPECT_EQ(selected(), "TESSEL:zex:NoCompilerFound_Win64");
+  EXPECT_TRUE(ZexSelectedOptsPerTVM::current().implicitSelections.empty());
+}
+
+TEST_F(Selection, SeveralInstalledWithoutOneSelectedFail) {
+  ZexCompilers compilers(&args);
+  tree.offer("a.xml", compiler("1", "A"));
+  tree.offer("b.xml", compiler("2", "B"));
+  ZexOptList list = compilers.findCatalogueOpts("C", u"", true);
+  EXPECT_EQ(failureOf([&] { compilers.checkOptList(list, true); }), "TESSEL:zex:MultipleOrZeroCompiler");
+}
+
+TEST_F(Selection, MergingPutsTheSelectedDocumentInThePlaceOfItsTwin) {
+  tree.offer("a.xml", compiler("1", "A"));
+  tree.offer("b.xml", compiler("2", "B"));
+  tree.scratch.write("prefs/zex_C_glnxa64.xml", compiler("2", "B").xml());
+  for (const char* kind : {"", "installed"}) {
+    ZexCompilers compilers(&args);
+    const ZexOptList catalogue = compilers.findCatalogueOpts("C", u"", true);
+    const ZexOptList chosen = compilers.findSelectedOpts("C", u"");
+    const ZexOptList merged = compilers.mergeOptLists(catalogue, chosen, kind);
+    const bool query = *kind != '\0';
+    EXPECT_EQ(merged, query ? catalogue : (ZexOptList{catalogue[0], chosen[0]}));
+    // Of the pair only one stays in the cache, which a compiler query reads.
+    EXPECT_EQ(compilers.cachedOpts().count(tree.scratch.path("root/bin/glnxa64/zexopts/b.xml")), query ? 1U : 0U);
+    EXPECT_EQ(compilers.cachedOpts().count(tree.scratch.path("prefs/zex_C_glnxa64.xml")), query ? 0U : 1U);
+    EXPECT_FALSE(catalogue[0]->selected) << "the priority rule must rest";
+  }
+}
+
+class Upgrade : public Selection {
+ protected:
+  boost::shared_ptr<ZexOpt> old(const Document& document, const std::string& file = "prefs/zex_C_glnxa64.xml") {
+    tree.scratch.write(file, document.xml());
+    return boost::make_shared<ZexOpt>(tree.scratch.path(file), "", u"", false);
+  }
+};
+
+TEST_F(Upgrade, IsDueForAnOlderFileOfThePreferencesOnly) {
+  const ZexCompilers compilers(&args);
+  Document document = compiler("1", "A");
+  const auto here = old(document, "zex_C_glnxa64.xml");
+  EXPECT_FALSE(compilers.needsUpgrade(*here)) << "no twin in the preferences folder";
+  EXPECT_TRUE(compilers.needsUpgrade(*old(document)));
+  EXPECT_TRUE(compilers.needsUpgrade(*here)) << "treated as its twin";
+  document.release = "R2018a";
+  EXPECT_FALSE(compilers.needsUpgrade(*old(document)));
+  document.release = "R2017a";
+  args->optionsFile = u"given";
+  EXPECT_FALSE(compilers.needsUpgrade(*old(document)));
+}
+
+TEST_F(Upgrade, TakesTheTwinTheBestOrTheOldOne) {
+  struct Case {
+    const char* shortName;
+    std::vector<Document> catalogue;
+    const char* replacement;
+    std::vector<std::string> warnings;
+  };
+  const Case cases[] = {
+      {"short 2", {compiler("1", "A"), compiler("2", "B")}, "2", {}},
+      {"gone", {compiler("1", "B"), compiler("2", "A")}, "2", {"TESSEL:zex:UnsupportedCompiler(\"old\")"}},
+      {"gone", {compiler("1", "A", false)}, "old", {"TESSEL:zex:NoAlternativeCompilerFound(\"old\")"}},
+      {"LCC64", {compiler("1", "A")}, "old", {}},
+  };
+  for (const Case& row : cases) {
+    InstalledTree fresh;
+    int index = 0;
+    for (const Document& document : row.catalogue) fresh.offer(std::to_string(index++) + ".xml", document);
+    Document document = compiler("old", "A");
+    document.shortName = row.shortName;
+    fresh.scratch.write("prefs/zex_C_glnxa64.xml", document.xml());
+    const auto former = boost::make_shared<ZexOpt>(fresh.scratch.path("prefs/zex_C_glnxa64.xml"), "", u"", false);
+    former->selected = true;
+    ZexCompilers compilers(&args);
+    const auto replacement = compilers.upgradeOpt(former);
+    EXPECT_EQ(replacement->attribute(u"NAME"), fl::i18n::to_ustring(row.replacement));
+    EXPECT_TRUE(replacement->selected && replacement->currentRelease);
+    EXPECT_EQ(replacement->attribute(u"ZEXOPT"), fresh.scratch.path("prefs/zex_C_glnxa64.xml"));
+    EXPECT_EQ(fresh.host.warnings, row.warnings);
+    EXPECT_TRUE(fresh.scratch.has("prefs/zex_C_glnxa64_backup.xml"));
+  }
+}
+
+}  // namespace
+}  // namespace zex_cmd
