@@ -1,0 +1,42 @@
+#include "build/ZexCommandResult.hpp"
+
+#include <string>
+
+#include "build/response_file.hpp"
+#include "cmd/messages/ZexConfigPerTVM.hpp"
+#include "cmd/messages/raise.hpp"
+#include "fl/filesystem/operations.hpp"
+#include "platform/ShellCommand.hpp"
+
+namespace zex_cmd {
+
+ZexCommandResult runBuildCommand(services::io::uout& output, const ZexBuildCommand& record,
+                                 const ustring& tempDir) {
+  const ZexBuildCommand run = needsResponseFile(record) ? responseFileCommand(record, tempDir) : record;
+  logVerbose(run.command, true);
+
+  ZexCommandResult result;
+  ustring standardOutput;
+  ustring standardError;
+  result.exitCode = runShellCommand(run.command, standardOutput, standardError, run.calledFromHost);
+
+  // Status 0 without the expected file is a failure too.
+  result.succeeded = result.exitCode == 0 && (run.output.empty() || fl::filesystem::exists(run.output));
+  if (!result.succeeded) {
+    if (!standardOutput.empty()) result.errorText = standardOutput + u"\n";
+    result.errorText += standardError;
+    return result;
+  }
+  if (!standardError.empty()) output << standardError + u"\n";
+  logVerbose(standardOutput, true);
+  return result;
+}
+
+void raiseCommandFailure(const ustring& commandText, const ZexCommandResult& result) {
+  if (result.succeeded) return;
+  if (!result.errorText.empty()) raiseTyped(msg::Error(result.errorText));
+  const ustring program = commandText.substr(0, commandText.find(u' '));
+  raiseTyped(msg::ZexErrorCode(program, std::to_string(result.exitCode)));
+}
+
+}  // namespace zex_cmd
