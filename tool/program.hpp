@@ -1,0 +1,21 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <new>
+#include <string>
+#include <vector>
+
+#include "fl/ustring.hpp"
+
+namespace tool {
+
+/// What a program does with its arguments.
+using Action = std::function<void(const std::vector<fl::ustring>&)>;
+
+/// Runs a program: settles the environment and the signals, answers a sole `--version`, turns a sole `--help` into
+/// the library's `-help`, shows failures on standard error and gives the exit status: 0, 1 for a failure with an
+/// identifier, 2 for any other. Everything is caught, so that unwinding cleans up on every way out.
+int runProgram(const std::string& name, int count, char** values, const Action& action);
+
+}  // namespace tool
