@@ -1,0 +1,38 @@
+#include <atomic>
+#include <csignal>
+
+#include "standalone/interrupts.hpp"
+
+namespace host::standalone {
+
+namespace {
+
+constexpr int notedSignals[] = {SIGINT, SIGTERM, SIGHUP};
+
+std::atomic<int> firstNoted = 0;
+static_assert(std::atomic<int>::is_always_lock_free, "a signal handler may take no lock");
+
+void note(int signal) {
+  int none = 0;
+  firstNoted.compare_exchange_strong(none, signal);
+}
+
+}  // namespace
+
+void installInterruptHandlers() {
+  struct sigaction noting {};
+  noting.sa_handler = note;
+  noting.sa_flags = SA_RESTART;
+  sigemptyset(&noting.sa_mask);
+  for (const int signal : notedSignals) {
+    struct sigaction former {};
+    sigaction(signal, nullptr, &former);
+    if (former.sa_handler != SIG_IGN) sigaction(signal, &noting, nullptr);
+  }
+}
+
+int pendingInterrupt() {
+  return firstNoted;
+}
+
+}  // namespace host::standalone

@@ -1,0 +1,24 @@
+#include "fl/filesystem/path_names.hpp"
+#include "standalone/separators.hpp"
+
+namespace fl::filesystem {
+
+const ustring upath_constant::PATHNAME_SEPARATOR = u"/";
+
+ustring detail::make_native_form(const ustring& path) {
+  return path;
+}
+
+}  // namespace fl::filesystem
+
+namespace host::standalone {
+
+bool isSeparator(char16_t unit) {
+  return unit == u'/';
+}
+
+std::size_t rootLength(fl::ustring_view path) {
+  return path.starts_with(u'/') ? 1 : 0;
+}
+
+}  // namespace host::standalone

@@ -1,0 +1,32 @@
+#include "fl/filesystem/streams.hpp"
+
+#include "fl/filesystem/operations.hpp"
+#include "standalone/native_path.hpp"
+
+namespace fl::filesystem {
+
+using host::standalone::nativePathIfAny;
+
+std::string native_access_form(const ustring& path) {
+  return host::standalone::nativePath(path).string();
+}
+
+basic_ifstream::basic_ifstream(const ustring& path, std::ios_base::openmode mode) {
+  const auto native = nativePathIfAny(path);
+  if (!native || is_directory(status(path))) {
+    setstate(failbit);
+    return;
+  }
+  open(*native, mode);
+}
+
+basic_ofstream::basic_ofstream(const ustring& path, std::ios_base::openmode mode) {
+  const auto native = nativePathIfAny(path);
+  if (!native) {
+    setstate(failbit);
+    return;
+  }
+  open(*native, mode | std::ios_base::trunc);
+}
+
+}  // namespace fl::filesystem

@@ -1,0 +1,121 @@
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+
+#include "standalone/StandaloneServices.hpp"
+#include "standalone/interrupts.hpp"
+#include "support/Scratch.hpp"
+
+namespace {
+
+using fl::ustring;
+using host::standalone::pendingInterrupt;
+
+host::ShellResult run(const ustring& line) {
+  return host::standalone::StandaloneServices().runShellLine(line, false);
+}
+
+std::string told(const ustring& line) {
+  const auto [status, text] = run(line);
+  return std::to_string(status) + " " + std::string(text.begin(), text.end());
+}
+
+TEST(ShellLine, TellsStatusAndText) {
+  EXPECT_EQ(told(u"echo a; echo hidden >&2"), "0 a\n");
+  EXPECT_EQ(told(u"echo a; echo shown >&2; exit 3"), "3 a\nshown\n");
+  EXPECT_EQ(told(u"kill -SEGV $$"), "139 ");
+  EXPECT_EQ(told(u"cat; echo end"), "0 end\n");
+  EXPECT_EQ(run(u"missing-program-of-zex").status, 127);
+  EXPECT_EQ(run(u"printf 'ü\\377'").text, u"ü\uFFFD");
+  EXPECT_EQ(run(u"-x").status, 127);
+}
+
+TEST(ShellLine, WhatCannotBeStartedIsTheSystemsErrorNumber) {
+  const zex_test::Scratch scratch;
+  EXPECT_EQ(told(ustring(3 << 20, u'x')), std::to_string(E2BIG) + " ");
+  EXPECT_EQ(told(ustring(u"touch made") + u'\0'), std::to_string(EINVAL) + " ");
+  EXPECT_EQ(told(ustring(u"touch made") + char16_t{0xD83D}), std::to_string(EILSEQ) + " ");
+  EXPECT_TRUE(scratch.names().empty());
+}
+
+TEST(ShellLine, ABackgroundChildDoesNotHoldTheCaller) {
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(told(u"sleep 5 & echo x"), "0 x\n");
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3));
+}
+
+TEST(ShellLine, LeavesNoDescriptorBehind) {
+  const ustring count = u"ls /proc/$PPID/fd | wc -l";
+  EXPECT_EQ(told(count), told(count));
+  EXPECT_EQ(told(u"ls -l /proc/$$/fd | grep -c deleted"), "0 2\n") << "the line holds more than its two streams";
+}
+
+/// Runs a check in a process of its own, for it changes the signals of the whole process.
+template <class Check>
+int exitOf(Check check) {
+  const pid_t child = fork();
+  if (child == 0) _exit(check() ? 0 : 1);
+  int status = 0;
+  waitpid(child, &status, 0);
+  return status;
+}
+
+/// A line during which this process is interrupted, by a child once the line's tool is sure to run.
+bool endsByInterrupt() {
+  const auto start = std::chrono::steady_clock::now();
+  const auto [status, text] = run(u"(sleep 0.2; kill -INT $PPID) & sleep 20; echo not interrupted");
+  const bool atOnce = std::chrono::steady_clock::now() - start < std::chrono::seconds(10);
+  return status == 128 + SIGINT && text.empty() && atOnce;
+}
+
+volatile sig_atomic_t handled = 0;
+
+TEST(Interrupts, GoToTheLineAndAreNotedForPrograms) {
+  const zex_test::Scratch scratch;
+  EXPECT_EQ(0, exitOf([] {
+              host::standalone::installInterruptHandlers();
+              return pendingInterrupt() == 0 && endsByInterrupt() && pendingInterrupt() == SIGINT &&
+                     run(u"touch started").status == 128 + SIGINT;
+            }));
+  EXPECT_EQ(0, exitOf([] {
+              host::standalone::installInterruptHandlers();
+              raise(SIGTERM);
+              raise(SIGINT);
+              return run(u"touch started").status == 128 + SIGTERM;
+            }));
+  EXPECT_FALSE(scratch.has("started"));
+}
+
+TEST(Interrupts, LeaveTheSignalsOfAnEmbedderAsTheyWere) {
+  EXPECT_EQ(0, exitOf([] { return endsByInterrupt() && pendingInterrupt() == 0 && run(u"true").status == 0; }));
+  EXPECT_EQ(SIGINT, exitOf([] { return run(u"true").status == 0 && raise(SIGINT) == 0; }));
+  EXPECT_EQ(0, exitOf([] {
+              signal(SIGINT, [](int) { handled = handled + 1; });
+              return endsByInterrupt() && handled == 1;
+            }));
+  EXPECT_EQ(0, exitOf([] {
+              signal(SIGINT, SIG_IGN);
+              host::standalone::installInterruptHandlers();
+              return run(u"kill -INT $PPID; kill -INT $$; echo on").text == u"on\n" && pendingInterrupt() == 0;
+            }));
+}
+
+TEST(Interrupts, TheLineStartsWithPlainSignals) {
+  EXPECT_EQ(0, exitOf([] {
+              signal(SIGPIPE, SIG_IGN);
+              signal(SIGCHLD, SIG_IGN);
+              sigset_t blocked;
+              sigemptyset(&blocked);
+              sigaddset(&blocked, SIGTERM);
+              sigprocmask(SIG_BLOCK, &blocked, nullptr);
+              return run(u"kill -PIPE $$").status == 128 + SIGPIPE &&
+                     run(u"kill -TERM $$").status == 128 + SIGTERM && run(u"exit 3").status == 3 &&
+                     signal(SIGCHLD, SIG_DFL) == SIG_IGN;
+            }));
+}
+
+}  // namespace
