@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -77,6 +78,13 @@ class ZexOpt {
   /// The document without finder, clients and comments, as XML text for a list. Doubled escapes of quotes are
   /// settled.
   ustring compilerXml() const;
+
+  /// Describes the compiler by fixed keys, such as "Name"; a key whose source is absent is left out. Read it from
+  /// a resolved document.
+  std::map<ustring, ustring> detailsMap() const;
+
+  /// Batch lines that put the document's PATH, INCLUDE, LIB and LIBPATH ahead of those of a command shell.
+  ustring environmentScript() const;
 
  private:
   bool calledFromHost_;

@@ -1,0 +1,105 @@
+#include "options/OptionTree.hpp"
+
+#include <boost/property_tree/xml_parser.hpp>
+#include <deque>
+#include <ios>
+#include <sstream>
+#include <string>
+#include <utility>
+
+#include "fl/filesystem/streams.hpp"
+#include "fl/i18n/strings.hpp"
+#include "platform/tokens.hpp"
+
+namespace zex_cmd {
+
+namespace {
+
+namespace pt = boost::property_tree;
+
+constexpr char encoding[] = "utf-8";
+
+/// A dot in the name of an element or attribute splits it into two levels: deliberate, a key is a path here.
+template <class To, class From, class Convert>
+void convertInto(To& to, const From& from, const Convert& convert) {
+  to.data() = convert(from.data());
+  for (const auto& [key, child] : from) {
+    convertInto(to.add_child(typename To::path_type(convert(key), '.'), To()), child, convert);
+  }
+}
+
+/// The library looks at the stream only after its last write, and a small document is in the buffer till then.
+void demandGood(const std::ostream& stream) {
+  if (!stream) throw std::ios_base::failure("write failed");
+}
+
+bool isLeftOutOfListings(const ustring& key, const ustring& path) {
+  return key == u"<xmlcomment>" || path == u"config.locationFinder" || path == u"config.client";
+}
+
+void escapeQuotes(OptionTree::Element& attributes) {
+  for (auto& [name, attribute] : attributes) attribute.data() = replacedAll(attribute.data(), u"\"", u"&quot;");
+}
+
+}  // namespace
+
+bool isXmlPart(const ustring& key) {
+  return key.find(u"<xml") != ustring::npos;
+}
+
+const OptionTree::Element* OptionTree::find(const ustring& path) const {
+  return root.get_child_optional(Element::path_type(path, u'.')).get_ptr();
+}
+
+OptionTree::Element* OptionTree::find(const ustring& path) {
+  return root.get_child_optional(Element::path_type(path, u'.')).get_ptr();
+}
+
+void OptionTree::readXml(const ustring& path) {
+  fl::filesystem::basic_ifstream stream(path);
+  pt::ptree narrow;
+  pt::read_xml(stream, narrow, pt::xml_parser::trim_whitespace);
+  convertInto(root, narrow, fl::i18n::to_ustring);
+  stream.close();
+}
+
+void OptionTree::writeXml(const ustring& path) const {
+  fl::filesystem::basic_ofstream stream(path);
+  demandGood(stream);
+  pt::ptree narrow;
+  convertInto(narrow, root, fl::i18n::to_string);
+  pt::write_xml(stream, narrow, pt::xml_writer_settings<std::string>('\t', 1, encoding));
+  stream.flush();
+  demandGood(stream);
+  stream.close();
+}
+
+void OptionTree::stripForListing() {
+  std::deque<std::pair<ustring, Element*>> open{{ustring(), &root}};
+  while (!open.empty()) {
+    const auto [path, element] = open.front();
+    open.pop_front();
+    for (auto child = element->begin(); child != element->end();) {
+      const ustring& key = child->first;
+      const ustring childPath = path.empty() ? key : path + u"." + key;
+      if (isLeftOutOfListings(key, childPath)) {
+        child = element->erase(child);
+        continue;
+      }
+      if (key == u"<xmlattr>") {
+        escapeQuotes(child->second);
+      } else {
+        open.emplace_back(childPath, &child->second);
+      }
+      ++child;
+    }
+  }
+}
+
+ustring OptionTree::listingXml() const {
+  std::basic_ostringstream<char16_t> stream;
+  pt::write_xml(stream, root, pt::xml_writer_settings<ustring>(u' ', 4, fl::i18n::to_ustring(encoding)));
+  return stream.str();
+}
+
+}  // namespace zex_cmd

@@ -1,0 +1,116 @@
+#include "options/ZexOpt.hpp"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+#include "cmd/messages/raise.hpp"
+#include "fl/i18n/strings.hpp"
+#include "options/OptionTree.hpp"
+
+namespace zex_cmd {
+
+namespace {
+
+using fl::i18n::lcctype;
+
+const ustring rootAttributes = u"config.<xmlattr>.";
+const ustring variables = u"config.vars.<xmlattr>.";
+const ustring releasePath = u"config.TESSEL.<xmlattr>.release";
+
+constexpr std::array<std::pair<std::u16string_view, std::u16string_view>, 8> attributeKeys = {{
+    {u"NAME", u"Name"},
+    {u"SHORTNAME", u"ShortName"},
+    {u"MANUFACTURER", u"Manufacturer"},
+    {u"VERSION", u"Version"},
+    {u"LANGUAGE", u"Language"},
+    {u"LOCATION", u"Location"},
+    {u"PRIORITY", u"Priority"},
+    {u"ZEXOPT", u"Zexopt"},
+}};
+
+/// The filter is taken as it stands: only the document's own word is folded.
+bool isOfLanguage(const ZexOpt& opt, const std::string& language) {
+  return lcctype::transform(opt.attribute(u"LANGUAGE"), fl::i18n::to_upper) == fl::i18n::to_ustring(language);
+}
+
+bool isNamed(const ZexOpt& opt, const ustring& shortNameFilter) {
+  return lcctype::transform(opt.attribute(u"SHORTNAME"), fl::i18n::to_lower) ==
+         lcctype::transform(shortNameFilter, fl::i18n::to_lower);
+}
+
+}  // namespace
+
+ustring shortName(const ustring& treePath) {
+  const std::size_t dot = treePath.rfind(u'.');
+  return dot == ustring::npos ? treePath : treePath.substr(dot + 1);
+}
+
+ZexOpt::ZexOpt(const ustring& path, const std::string& language, const ustring& shortNameFilter,
+               bool calledFromHost)
+    : calledFromHost_(calledFromHost), tree_(std::make_unique<OptionTree>()) {
+  try {
+    tree_->readXml(path);
+  } catch (...) {
+    raiseTyped(msg::InvalidXML(path));
+  }
+  if (!language.empty() && !isOfLanguage(*this, language)) return;
+  if (!shortNameFilter.empty() && !isNamed(*this, shortNameFilter)) return;
+  setZexoptPath(path);
+  findLocations();
+  checkRelease();
+}
+
+ZexOpt::~ZexOpt() = default;
+
+ustring ZexOpt::attribute(const ustring& key) const {
+  const auto row = std::find_if(attributeKeys.begin(), attributeKeys.end(),
+                                [&](const auto& candidate) { return candidate.first == key; });
+  if (row == attributeKeys.end()) return {};
+  return value(rootAttributes + ustring(row->second)).value_or(ustring());
+}
+
+std::optional<ustring> ZexOpt::value(const ustring& path) const {
+  const OptionTree::Element* element = tree_->find(path);
+  if (element == nullptr) return std::nullopt;
+  return element->data();
+}
+
+void ZexOpt::setValue(const ustring& path, const ustring& text) {
+  tree_->root.put(OptionTree::Element::path_type(path, u'.'), text);
+}
+
+ustring ZexOpt::requiredValue(const ustring& path) const {
+  std::optional<ustring> found = value(path);
+  if (!found) raiseTyped(msg::ErrXMLAttr(path, attribute(u"ZEXOPT")));
+  return *std::move(found);
+}
+
+std::optional<ustring> ZexOpt::variable(const ustring& name) const {
+  return value(variables + name);
+}
+
+void ZexOpt::setVariable(const ustring& name, const ustring& text) {
+  setValue(variables + name, text);
+}
+
+void ZexOpt::removeValue(const ustring& path) {
+  const std::size_t dot = path.rfind(u'.');
+  OptionTree::Element* parent = dot == ustring::npos ? &tree_->root : tree_->find(path.substr(0, dot));
+  if (parent != nullptr) parent->erase(shortName(path));
+}
+
+void ZexOpt::setZexoptPath(const ustring& path) {
+  setValue(rootAttributes + u"Zexopt", path);
+}
+
+void ZexOpt::stampRelease() {
+  setValue(releasePath, fl::i18n::to_ustring(releaseTag));
+}
+
+void ZexOpt::checkRelease() {
+  if (value(releasePath) == fl::i18n::to_ustring(releaseTag)) currentRelease = true;
+}
+
+}  // namespace zex_cmd

@@ -1,0 +1,60 @@
+#include <boost/property_tree/xml_parser.hpp>
+
+#include "cmd/messages/notices.hpp"
+#include "cmd/messages/raise.hpp"
+#include "cmd/messages/show.hpp"
+#include "fl/filesystem/operations.hpp"
+#include "fl/filesystem/path_names.hpp"
+#include "options/OptionTree.hpp"
+#include "options/ZexOpt.hpp"
+#include "platform/folders.hpp"
+
+namespace zex_cmd {
+
+namespace {
+
+namespace names = fl::filesystem::detail;
+
+void moveToBackup(const ustring& path) {
+  const ustring backup = backupPathFor(path);
+  replaceFile(path, backup);
+  printMessage(msg::FileRenamed(path, backup));
+}
+
+}  // namespace
+
+void ZexOpt::writeSelected(const ustring& path) {
+  // Folders are compared as text, so a different spelling of the preferences folder is another folder.
+  if (names::remove_filename(path) == preferencesFolder()) {
+    stampRelease();
+    if (fl::filesystem::exists(path)) moveToBackup(path);
+  }
+  try {
+    removeValue(u"config.<xmlattr>.Zexopt");
+    tree_->writeXml(path);
+    setZexoptPath(path);
+  } catch (const boost::property_tree::xml_parser_error& failure) {
+    raiseTyped(msg::XMLWriteFailedWithMsg(path, failure.what()));
+  } catch (const boost::property_tree::ptree_error& failure) {
+    raiseTyped(msg::XMLWriteFailedWithMsg(path, failure.what()));
+  } catch (...) {
+    raiseTyped(msg::XMLWriteFailed(path));
+  }
+}
+
+ustring ZexOpt::compilerXml() const {
+  OptionTree listed = *tree_;
+  listed.stripForListing();
+  return listed.listingXml();
+}
+
+ustring backupPathFor(const ustring& path) {
+  const ustring name = names::extract_filename(path);
+  const std::size_t dot = name.rfind(u'.');
+  const ustring stem = name.substr(0, dot);
+  // A name without a dot still gets one at its end: deliberate.
+  const ustring extension = dot == ustring::npos ? ustring() : name.substr(dot + 1);
+  return names::concatenate_pathname(names::remove_filename(path), stem + u"_backup." + extension);
+}
+
+}  // namespace zex_cmd

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include <string>
+
+#include "options/ZexOpt.hpp"
+#include "support/RecordingServices.hpp"
+#include "support/Scratch.hpp"
+
+namespace zex_cmd {
+
+/// A scratch folder with a document in it, under a recording host.
+class DocumentTest : public testing::Test {
+ protected:
+  ZexOpt load(const std::string& content, const std::string& language = {}, const ustring& name = {}) {
+    scratch.write("doc.xml", content);
+    return ZexOpt(scratch.path("doc.xml"), language, name, false);
+  }
+  ZexOpt reload(const std::string& name) { return ZexOpt(scratch.path(name), "", u"", false); }
+
+  zex_test::Scratch scratch;
+  zex_test::RecordingServices host;
+  zex_test::ScopedVariable temporary{"TMPDIR", scratch.folder().c_str()};
+};
+
+}  // namespace zex_cmd

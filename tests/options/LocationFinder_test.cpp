@@ -1,0 +1,102 @@
+#include <filesystem>
+
+#include "cmd/messages/ZexConfigPerTVM.hpp"
+#include "fl/filesystem/exceptions.hpp"
+#include "fl/i18n/strings.hpp"
+#include "options/DocumentTest.hpp"
+
+namespace zex_cmd {
+namespace {
+
+class LocationFinderTest : public DocumentTest {
+ protected:
+  LocationFinderTest() {
+    host.install = scratch.path("root");
+    for (const char* file : {"tools/cc", "tools/ld", "root/marker", "real/cc", "real/ld"}) scratch.write(file, "");
+    std::filesystem::create_symlink("real/cc", "link");
+    std::filesystem::create_symlink("nowhere", "broken");
+  }
+
+  ZexOpt find(const std::string& conditions) {
+    ZexConfigPerTVM::current().locationTrace.clear();
+    return load("<config Name='n'><locationFinder>" + conditions + "</locationFinder></config>");
+  }
+
+  zex_test::ScopedVariable home{"HOME", scratch.folder().c_str()};
+  zex_test::ScopedVariable place{"ZEX_TEST_PLACE", "tools"};
+};
+
+TEST_F(LocationFinderTest, AConditionTreeGivesAVariableOrItsDiagnostics) {
+  const std::string folder = scratch.folder().string();
+  struct Case {
+    std::string conditions;
+    std::string value;  // "-" for a compiler that is not found
+    std::string trace;
+  };
+  const Case cases[] = {
+      {"<or><fileExists name='no' diagnostic='d'/><dirExists name='tools'/></or>", "tools", "d\n"},
+      {"<or><dirExists name='tools'/><dirExists name='real'/></or>", "tools", ""},
+      {"<fileExists name='tools'/>", "tools", ""},
+      {"<dirExists name='tools/cc'/>", "tools/cc", ""},
+      {"<fileExists name='$TESSELROOT/marker'/>", folder + "/root/marker", ""},
+      {"<dirExists name='~/tools'/>", folder + "/tools", ""},
+      {"<dirExists name='./~'/>", "-", ""},
+      {"<fileExists name='./tools/../real//cc'/>", "./real/cc", ""},
+      // "$$" is the folder found so far; a file stands for its folder, and links are followed.
+      {"<envVarExists name='ZEX_TEST_PLACE'/><fileExists name='$$/cc'/><fileExists name='$$/ld'/>", "tools/ld",
+       ""},
+      {"<fileExists name='link'/><fileExists name='$$/ld'/>", folder + "/real/ld", ""},
+      {"<fileExists name='$$/tools'/>", "-", ""},
+      {"<fileExists name='tools/cc'/><cmdReturns name='echo in:$$'/>", "in:tools", ""},
+      {"<envVarExists name='ZEX_TEST_ABSENT' diagnostic='Set it.'/>", "-", "Set it.\n"},
+      {"<cmdReturns name='echo; echo \"  a//b \"'/>", "a/b", ""},
+      {"<cmdReturns name='echo \"  \"'/>", "", ""},
+      {"<cmdReturns name='true' diagnostic='silent'/>", "-", "silent\n"},
+      {"<cmdReturns name='echo x; exit 1'/>", "-", ""},
+      // A command that fails wipes the value, a failing file test does not.
+      {"<dirExists name='tools'/><not><cmdReturns name='false'/></not>", "", ""},
+      {"<dirExists name='tools'/><not><fileExists name='no'/></not>", "tools", ""},
+      {"<not diagnostic='n'><fileExists name='no' diagnostic='a'/><dirExists name='tools'/></not>", "-", "a\nn\n"},
+      {"<not><fileExists name='no' diagnostic='a'/></not>", "", "a\n"},
+      {"<not/>", "-", ""},
+      {"<!-- nothing but words -->", "-", ""},
+      {"<anyName><dirExists name='tools'/><fileExists name='no'/><dirExists name='real'/></anyName>", "-", ""},
+      // A missing required attribute skips the element's own diagnostic.
+      {"<or diagnostic='outer'><fileExists diagnostic='inner'/></or>", "-", "outer\n"},
+      {"<hkcuExists name='n' diagnostic='d'/>", "-", ""},
+      {"<hklmExists path='p' name='n' diagnostic='d'/>", "-", "d\n"},
+  };
+  for (const Case& test : cases) {
+    SCOPED_TRACE(test.conditions);
+    const ZexOpt opt = find("<V>" + test.conditions + "</V>");
+    EXPECT_EQ(opt.installed, test.value != "-");
+    EXPECT_EQ(fl::i18n::to_string(opt.variable(u"V").value_or(u"-")), test.value);
+    EXPECT_EQ(ZexConfigPerTVM::current().locationTrace, test.trace);
+  }
+}
+
+TEST_F(LocationFinderTest, TheFirstMissingVariableEndsTheSearch) {
+  ZexConfigPerTVM::current().verboseEnabled = true;
+  const ZexOpt opt = find(
+      "<AA><dirExists name='tools'/></AA><!-- note --><BB><fileExists name='no'/></BB>"
+      "<CC><dirExists name='real'/></CC>");
+  EXPECT_FALSE(opt.installed);
+  EXPECT_EQ(opt.variable(u"AA"), u"tools");
+  EXPECT_EQ(opt.variable(u"BB"), std::nullopt);
+  EXPECT_EQ(opt.variable(u"CC"), std::nullopt);
+  EXPECT_EQ(fl::i18n::to_string(ZexConfigPerTVM::current().verboseText),
+            "TESSEL:zex:LookingCompiler(\"n\")\n"
+            "TESSEL:zex:LookingFolder(\"tools\")TESSEL:zex:Yes\n"
+            "TESSEL:zex:LookingFile(\"no\")TESSEL:zex:No\n"
+            "TESSEL:zex:NotInstalledCompiler(\"n\")\n");
+  EXPECT_FALSE(load("<config/>").installed);
+}
+
+TEST_F(LocationFinderTest, ABrokenLinkAsFoundValueFliesOn) {
+  const zex_test::ScopedVariable toBroken("ZEX_TEST_PLACE", "broken");
+  EXPECT_THROW(find("<V><envVarExists name='ZEX_TEST_PLACE'/><fileExists name='$$/cc'/></V>"),
+               fl::filesystem::FsysExceptionBase);
+}
+
+}  // namespace
+}  // namespace zex_cmd

@@ -1,0 +1,87 @@
+#include <filesystem>
+
+#include "options/DocumentTest.hpp"
+
+namespace zex_cmd {
+namespace {
+
+using testing::ElementsAre;
+using ZexOptTest = DocumentTest;
+
+TEST_F(ZexOptTest, FiltersLetADocumentPassOrLeaveItUntried) {
+  struct Case {
+    std::string attributes;
+    std::string language;
+    ustring name;
+    bool passes;
+  };
+  const Case cases[] = {
+      {"", "", u"", true},
+      {"Language='c++' ShortName='GnuCpp'", "C++", u"", true},
+      {"Language='c++' ShortName='GnuCpp'", "c++", u"", false},
+      {"Language='c++' ShortName='GnuCpp'", "C", u"", false},
+      {"Language='C' ShortName='Éclair'", "C", u"éCLAIR", true},
+      {"Language='C' ShortName='gcc'", "C", u"gc", false},
+      {"ShortName='gcc'", "C", u"", false},
+  };
+  for (const Case& test : cases) {
+    SCOPED_TRACE(test.attributes + test.language);
+    std::filesystem::remove("ran");
+    const ZexOpt opt = load("<config " + test.attributes +
+                                "><locationFinder><ROOT><cmdReturns name='touch ran; echo x'/></ROOT>"
+                                "</locationFinder></config>",
+                            test.language, test.name);
+    EXPECT_EQ(opt.attribute(u"ZEXOPT"), test.passes ? scratch.path("doc.xml") : u"");
+    EXPECT_EQ(scratch.has("ran"), test.passes);
+    EXPECT_EQ(opt.installed, test.passes);
+  }
+}
+
+TEST_F(ZexOptTest, WhatIsNoDocumentIsInvalidXml) {
+  scratch.write("open.xml", "<config><vars>");
+  scratch.write("value.xml", "<config Name=bare/>");
+  scratch.write("folder/file", "");
+  for (const char* name : {"missing.xml", "open.xml", "value.xml", "folder"}) {
+    const std::string failure = zex_test::failureOf([&] { ZexOpt(scratch.path(name), "", u"", false); });
+    EXPECT_EQ(failure, "TESSEL:zex:InvalidXML(\"" + (scratch.folder() / name).string() + "\")");
+  }
+  EXPECT_EQ(host.errors.size(), 4U);
+}
+
+TEST_F(ZexOptTest, PathsComeInDocumentOrderAndBreadthFirst) {
+  const ZexOpt opt = load(
+      "<?xml version='1.0'?><!-- a --><config Name='n'><!-- b --><vars CMDLINE2='' XCMDLINE1=''"
+      " CMDLINE='' CMDLINE10=''><!-- c --></vars>"
+      "<client><ZBUILD X='1'/></client><deep><er Z='z'/></deep><env PATH='p'/></config>");
+  const ustring vars = u"config.vars.<xmlattr>.";
+  EXPECT_THAT(opt.allValuePaths({u"config.locationFinder", u"config.client"}),
+              ElementsAre(u"config.<xmlattr>.Name", u"config.<xmlattr>.Zexopt", vars + u"CMDLINE2",
+                          vars + u"XCMDLINE1", vars + u"CMDLINE", vars + u"CMDLINE10",
+                          u"config.env.<xmlattr>.PATH", u"config.deep.er.<xmlattr>.Z"));
+  EXPECT_THAT(opt.childPaths(u"config"),
+              ElementsAre(u"config.vars", u"config.client", u"config.deep", u"config.env"));
+  EXPECT_THAT(opt.commandLinePaths(), ElementsAre(vars + u"CMDLINE10", vars + u"CMDLINE2"));
+  EXPECT_TRUE(opt.attributePaths(u"config.nothing").empty());
+}
+
+TEST_F(ZexOptTest, ValuesAreMadeReplacedAndRemoved) {
+  ZexOpt opt = load("<config Name=' gcc &lt;é&gt; ' Other='x'><vars OPT='-O'/></config>");
+  EXPECT_EQ(opt.attribute(u"NAME"), u" gcc <é> ");
+  for (const char16_t* key : {u"VERSION", u"OTHER", u"Name"}) EXPECT_EQ(opt.attribute(key), u"");
+
+  opt.setVariable(u"OPT", u"-O2");
+  opt.setVariable(u"NEW", u"n");
+  EXPECT_EQ(opt.variable(u"OPT"), u"-O2");
+  EXPECT_EQ(opt.attributePaths(u"config.vars").size(), 2U);
+  opt.removeValue(u"config.vars.<xmlattr>.OPT");
+  opt.removeValue(u"config.vars.<xmlattr>.ABSENT");
+  opt.removeValue(u"config.nothing.<xmlattr>.OPT");
+  EXPECT_EQ(opt.variable(u"OPT"), std::nullopt);
+  EXPECT_EQ(opt.variable(u"NEW"), u"n");
+  const std::string document = (scratch.folder() / "doc.xml").string();
+  EXPECT_EQ(zex_test::failureOf([&] { opt.requiredValue(u"config.vars.<xmlattr>.OPT"); }),
+            "TESSEL:zex:ErrXMLAttr(\"config.vars.<xmlattr>.OPT\", \"" + document + "\")");
+}
+
+}  // namespace
+}  // namespace zex_cmd
