@@ -1,0 +1,11 @@
+#include <unistd.h>
+
+#include "build/temporary/process_number.hpp"
+
+namespace zex_cmd {
+
+std::uint64_t processNumber() {
+  return static_cast<std::uint64_t>(getpid());
+}
+
+}  // namespace zex_cmd

@@ -1,0 +1,36 @@
+#include "platform/architecture.hpp"
+
+#include <array>
+#include <string_view>
+
+namespace zex_cmd {
+
+namespace {
+
+struct Architecture {
+  std::string_view tag;
+  std::string_view name;
+};
+
+constexpr std::array<Architecture, 5> architectures{{
+    {"zexglx", "glnx86"},
+    {"zexa64", "glnxa64"},
+    {"zexmaci64", "maci64"},
+    {"zexw32", "win32"},
+    {"zexw64", "win64"},
+}};
+
+}  // namespace
+
+std::string architectureOfTag(const std::string& extensionTag) {
+  for (const Architecture& row : architectures) {
+    if (row.tag == extensionTag) return std::string(row.name);
+  }
+  return "unknown";
+}
+
+std::string architectureName() {
+  return architectureOfTag(ZEX_PLATFORM_TAG);
+}
+
+}  // namespace zex_cmd

@@ -1,0 +1,21 @@
+#include "platform/captured_text.hpp"
+
+#include <string>
+
+#include "fl/filesystem/streams.hpp"
+#include "fl/i18n/strings.hpp"
+
+namespace zex_cmd {
+
+ustring capturedText(const ustring& path) {
+  fl::filesystem::basic_ifstream stream(path);
+  const fl::i18n::codecvt_string_to_ustring decode;
+  ustring text;
+  for (std::string line; std::getline(stream, line);) {
+    // Empty lines are dropped on purpose.
+    if (!line.empty()) text.append(decode(line)).append(u"\n");
+  }
+  return text;
+}
+
+}  // namespace zex_cmd

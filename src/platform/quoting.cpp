@@ -1,0 +1,51 @@
+#include "platform/quoting.hpp"
+
+namespace zex_cmd {
+
+namespace {
+
+bool standsBetween(const ustring& text, char16_t mark) {
+  return !text.empty() && text.front() == mark && text.back() == mark;
+}
+
+ustring between(const ustring& text, char16_t mark) {
+  return mark + text + mark;
+}
+
+}  // namespace
+
+bool isQuoted(const ustring& text) {
+  return standsBetween(text, u'"');
+}
+
+ustring withoutQuotes(const ustring& text) {
+  if (!isQuoted(text)) return text;
+  return text.size() == 1 ? ustring() : text.substr(1, text.size() - 2);
+}
+
+ustring quoteAlways(const ustring& text) {
+  return isQuoted(text) ? text : between(text, u'"');
+}
+
+ustring quoteWhenNeeded(const ustring& text) {
+  if (isQuoted(text)) return text;
+  const std::size_t lastQuote = text.rfind(u'"');
+  bool insideQuotes = false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == u'"') {
+      insideQuotes = !insideQuotes;
+      continue;
+    }
+    const bool isSpecial = fl::ustring_view(u" ()&").find(text[i]) != fl::ustring_view::npos;
+    const bool neverClosed = lastQuote == ustring::npos || lastQuote < i;
+    if (isSpecial && (!insideQuotes || neverClosed)) return between(text, u'"');
+  }
+  return text;
+}
+
+ustring quoteForPosix(const ustring& text) {
+  if (standsBetween(text, u'\'') || isQuoted(text)) return text;
+  return text.find_first_of(u" =()") == ustring::npos ? text : between(text, u'\'');
+}
+
+}  // namespace zex_cmd

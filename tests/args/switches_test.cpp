@@ -1,0 +1,72 @@
+#include "args/CommandLine.hpp"
+
+namespace zex_test {
+namespace {
+
+class Switches : public CommandLine {};
+
+TEST_F(Switches, ChangeTheRecord) {
+  scratch.write("doc.xml", "");
+  const Case cases[] = {
+      {{u"-r2018A"}, "release=R2018a"},
+      {{u"-R0x2018a"}, "release=R0x2018a"},
+      {{u"-C", u"-Called_From_Tessel", u"-N", u"-SILENT"}, "flags=compileOnly,dryRun,silent,host"},
+      {{u"-client", u"engine", u"-client", u"ZBuild_com"}, "client=ZBUILD_COM"},
+      {{u"-compatibleArrayDims", u"-largeArrayDims"}, "flags=compatible,large"},
+      {{u"-CXX", u"-fortran", u"-FORTRAN"}, "languages=C++,FORTRAN,FORTRAN"},
+      {{u"-DA", u"-DB=1 2", u"-DC=\"x y\"", u"-UD E"}, "DEFINES= A \"B=1 2\" C=\"x y\" -UD E"},
+      {{u"-F", u"x/../doc.xml"}, "optionsFile=~/doc.xml"},
+      {{u"-g", u"-O"}, "flags=debug,optimize"},
+      {{u"-Ia b/", u"-I\"q\""}, "INCLUDE= -I\"a b\" -I\"q\""},
+      {{u"-Ldir/", u"-Largearraydims"}, "LIBPATH= \"dir\" \"argearraydims\""},
+      {{u"-lfoo.LIB", u"-lfoo.a", u"-lsub/foo.lib", u"-largearraydims"},
+       "LIBRARIES= \"foo\" \"foo.a\" \"sub/foo\" \"argearraydims\""},
+      {{u"-tessel_arch=x", u"-no_setup", u"-nosuchswitch", u"-NO_ZEXCHECK"}, "flags=check"},
+      {{u"-OUTDIR", u"new/dir", u"-output", u"-g", u"-Output", u"é b"}, "output=é b; outDir=~/new/dir"},
+      {{u"-Setup:doc.xml"}, "setupArgument=~/doc.xml; flags=setup"},
+      {{u"-setup:Gcc"}, "setupArgument=Gcc; flags=setup"},
+      {{u"-V"}, "flags=verbose"},
+      {{u"-maci64", u"-WIN64"}, "arch=win64"},
+  };
+  for (const Case& row : cases) EXPECT_EQ(walked(row.line), row.expected);
+  EXPECT_EQ(host.output, "TESSEL:zex:Verbose\n");
+}
+
+TEST_F(Switches, UnknownOnesFail) {
+  const fl::ustring all =
+      u"-R -R2016b -R0x -R2018az -cx -Compatiblearraydims -D -dX -fo -G -gx -I -iX -L -l -o -outdirs -s -setup: "
+      u"-setupx -tesselx -U -uX -vx -xml:list.xml -é --g -H -HELP -Inline -ADA";
+  for (const fl::ustring& token : zex_cmd::splitTokens(all, u" ")) {
+    const std::string expected = "TESSEL:zex:UnknownSwitch(\"" + fl::i18n::to_string(token) + "\")";
+    EXPECT_EQ(walked({token}), expected);
+  }
+}
+
+TEST_F(Switches, FailuresNameTheirCause) {
+  const Case cases[] = {
+      {{u"-r2018a", u"-R2018A"}, "TESSEL:zex:IncompatibleSwitches(\"R2018a\", \"R2018a\")"},
+      {{u"-R0", u"-Rubbish"}, "TESSEL:zex:IncompatibleSwitches(\"R0\", \"Rubbish\")"},
+      {{u"-Client", u"zbuilt"}, "TESSEL:zex:UnknownClient(\"zbuilt\")"},
+      {{u"-client"}, "TESSEL:zex:ErrOption(\"-client\")"},
+      {{u"-g", u"-OutDir"}, "TESSEL:zex:ErrOption(\"-OutDir\")"},
+      {{u"-outdir", u"a`b"}, "TESSEL:zex:Error(\"Invalid path a`b\")"},
+  };
+  for (const Case& row : cases) EXPECT_EQ(walked(row.line), row.expected);
+  // Every failure is announced once.
+  EXPECT_EQ(host.errors.size(), std::size(cases));
+
+  std::filesystem::create_directory("gone");
+  std::filesystem::current_path("gone");
+  std::filesystem::remove("../gone");
+  EXPECT_EQ(walked({u"-outdir", u"new"}), "TESSEL:zex:SrcNotFound(\"new\", \"new\")");
+  EXPECT_EQ(walked({u"-setup:word"}), "TESSEL:zex:SrcNotFound(\"word\", \"word\")");
+}
+
+TEST_F(Switches, TesselDropsWhatFollows) {
+  EXPECT_EQ(walked({u"-TESSEL", u"missing.c", u"-g", u"-tessel"}), "flags=debug");
+  EXPECT_THAT(host.warnings,
+              testing::ElementsAre("TESSEL:zex:NotAnOption(\"-TESSEL\")", "TESSEL:zex:NotAnOption(\"-tessel\")"));
+}
+
+}  // namespace
+}  // namespace zex_test
