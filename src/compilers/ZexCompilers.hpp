@@ -43,6 +43,10 @@ class ZexCompilers {
   void cacheOpt(const ustring& path, const boost::shared_ptr<ZexOpt>& opt);
   void eraseCachedOpt(const ustring& path);
 
+  /// Reads one document, for this command, without putting it into the cache.
+  boost::shared_ptr<ZexOpt> readOpt(const ustring& path, const std::string& language,
+                                    const ustring& shortNameFilter) const;
+
   /// Every document read and accepted during this command, by full path.
   const std::map<ustring, boost::shared_ptr<ZexOpt>>& cachedOpts() const { return optCache_; }
 
@@ -75,13 +79,22 @@ class ZexCompilers {
   /// Writes the selected-options file to the preferences folder or, in setup, to where -f says.
   void writeSelectedFile(ZexOpt& opt) const;
 
+  // Setup.
+
+  /// The documents that a setup command or a compiler query deals with, for all languages of the command.
+  ZexOptList listSetupOpts(const std::string& kind);
+
+  /// The installed document of a short name. Raises "TESSEL:zex:SrcNotFound" with the name.
+  boost::shared_ptr<ZexOpt> findOptByShortName(const ustring& shortName);
+
+  /// Whether setup must bring a document up to date and write it.
+  bool needsRewrite(const ZexOpt& opt) const;
+
  private:
   const ZexArgs& args() const { return **args_; }
   std::vector<ustring> acceptedNames(const std::string& language, const std::string& architecture) const;
   bool servesClient(const ZexOpt& opt) const;
   bool keepsDocument(const ZexOpt& opt) const;
-  boost::shared_ptr<ZexOpt> readOpt(const ustring& path, const std::string& language,
-                                    const ustring& shortNameFilter) const;
 
   std::map<ustring, boost::shared_ptr<ZexOpt>> optCache_;
   const boost::shared_ptr<ZexArgs>* args_;
