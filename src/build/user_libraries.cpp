@@ -51,6 +51,10 @@ std::optional<ustring> resolvedTerm(const ustring& library, const ustring& switc
   raiseTyped(msg::LibNotFound(library, second, tried.front()));
 }
 
+void append(std::vector<ustring>& list, const std::vector<ustring>& more) {
+  list.insert(list.end(), more.begin(), more.end());
+}
+
 bool takesLibraries(const ustring& variable) {
   return variable.starts_with(u"CMDLINE") || variable == u"LINKLIBS";
 }
@@ -78,9 +82,6 @@ std::vector<ustring> librarySearchPath(const ZexOpt& option, const ZexArgs& args
   if (!attribute || attribute->empty()) return {};
 
   std::vector<ustring> path = splitTokens(*attribute, u";");
-  const auto append = [&path](const std::vector<ustring>& more) {
-    path.insert(path.end(), more.begin(), more.end());
-  };
   // By index, so that what a variable adds is visited too; a variable that names itself again adds nothing new.
   std::vector<ustring> visited;
   for (std::size_t index = 0; index < path.size(); ++index) {
@@ -89,9 +90,9 @@ std::vector<ustring> librarySearchPath(const ZexOpt& option, const ZexArgs& args
     if (std::find(visited.begin(), visited.end(), entry) != visited.end()) continue;
     visited.push_back(entry);
     const ustring value = fl::i18n::getenv(fl::i18n::to_string(entry.substr(2)));
-    if (!value.empty()) append(splitTokens(value, u";"));
+    if (!value.empty()) append(path, splitTokens(value, u";"));
   }
-  if (!args.libraryPaths.empty()) append(splitTokens(args.libraryPaths, u" "));
+  if (!args.libraryPaths.empty()) append(path, splitTokens(args.libraryPaths, u" "));
   path.push_back(fl::filesystem::get_current_path());
   return path;
 }
