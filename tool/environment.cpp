@@ -2,8 +2,8 @@
 
 #include <stdlib.h>
 
+#include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <string>
 
 namespace tool {
@@ -34,7 +34,7 @@ bool safeInShell(const std::string& folder) {
 
 void prepareEnvironment() {
   const std::string temporary = temporaryFolder();
-  if (temporary.empty() || !safeInShell(temporary)) setenv("TMPDIR", "/tmp", 1);
+  if (temporary.empty() || !safeInShell(temporary)) setenv("TMPDIR", P_tmpdir, 1);
 
   std::string preferences = variable("TESSEL_PREFDIR");
   const std::string former = preferences;

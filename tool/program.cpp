@@ -8,6 +8,7 @@
 #include "fl/i18n/MessageCatalog.hpp"
 #include "fl/i18n/strings.hpp"
 #include "foundation/core/except/IException.hpp"
+#include "korvane/TException.hpp"
 #include "standalone/StandaloneServices.hpp"
 #include "standalone/interrupts.hpp"
 
@@ -28,9 +29,18 @@ std::string withoutLineEnd(std::string text) {
   return text;
 }
 
+int showText(const std::string& name, const fl::ustring& text, const std::string& errorId) {
+  showError(name + ": error: " + withoutLineEnd(fl::i18n::to_string(text)) + " [" + errorId + "]");
+  return failed;
+}
+
 int showFailure(const std::string& name, const foundation::core::except::IMsgIDException& failure) {
   const fl::ustring text = fl::i18n::MessageCatalog::get_message(failure.message(), fl::i18n::ZwLocale::global());
-  showError(name + ": error: " + withoutLineEnd(fl::i18n::to_string(text)) + " [" + failure.error_id() + "]");
+  return showText(name, text, failure.error_id());
+}
+
+int showUsage(const std::string& name, const UsageError& failure) {
+  showError(name + ": error: " + failure.what());
   return failed;
 }
 
@@ -49,8 +59,12 @@ std::vector<fl::ustring> argumentsOf(int count, char** values) {
 int runGuarded(const std::string& name, const std::vector<fl::ustring>& arguments, const Action& action) {
   try {
     action(arguments);
+  } catch (const Korvane::TException::HostError& failure) {
+    return showText(name, failure.text(), failure.error_id());
   } catch (const foundation::core::except::IMsgIDException& failure) {
     return showFailure(name, failure);
+  } catch (const UsageError& failure) {
+    return showUsage(name, failure);
   } catch (const std::exception& failure) {
     return showInternalError(name, failure.what());
   } catch (...) {

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <new>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,11 @@ namespace tool {
 
 /// What a program does with its arguments.
 using Action = std::function<void(const std::vector<fl::ustring>&)>;
+
+/// A command line that a program itself refuses.
+struct UsageError : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
 
 /// Runs a program: settles the environment and the signals, answers a sole `--version`, turns a sole `--help` into
 /// the library's `-help`, shows failures on standard error and gives the exit status: 0, 1 for a failure with an

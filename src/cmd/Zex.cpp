@@ -6,9 +6,11 @@
 #include "args/ZexArgs.hpp"
 #include "build/ZexBuilder.hpp"
 #include "build/temporary/ZexTempFile.hpp"
+#include "cmd/ada.hpp"
+#include "cmd/help.hpp"
 #include "cmd/messages/ZexConfigPerTVM.hpp"
-#include "cmd/messages/raise.hpp"
 #include "compilers/ZexCompilers.hpp"
+#include "compilers/ZexSetup.hpp"
 #include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
 
@@ -20,15 +22,11 @@ bool holds(const std::vector<ustring>& arguments, const ustring& word) {
   return std::find(arguments.begin(), arguments.end(), word) != arguments.end();
 }
 
-[[noreturn]] void raiseNotAvailable(const ustring& feature) {
-  raiseTyped(msg::Error(feature + u" is not available in this version of zex."));
-}
-
 }  // namespace
 
 void Zex::run(const std::vector<ustring>& arguments) {
-  if (holds(arguments, u"-h") || holds(arguments, u"-help")) raiseNotAvailable(u"Help");
-  if (holds(arguments, u"-ada")) raiseNotAvailable(u"Building Ada sources");
+  if (holds(arguments, u"-h") || holds(arguments, u"-help")) return printHelp();
+  if (holds(arguments, u"-ada")) return runAdaRoute(arguments);
 
   resetReportBuffers();
   args_ = boost::make_shared<ZexArgs>();
@@ -41,8 +39,11 @@ void Zex::run(const std::vector<ustring>& arguments) {
     args_->tempDir = temporaryFolder->path();
   }
   compilers_ = boost::make_shared<ZexCompilers>(&args_);
-  if (args_->setup) raiseNotAvailable(u"The compiler setup command");
-  build();
+  if (args_->setup) {
+    ZexSetup(args_, compilers_, queryKind_);
+  } else {
+    build();
+  }
 }
 
 void Zex::build() {
@@ -53,10 +54,6 @@ void Zex::build() {
   }
   args_->addApiVersionSource(language);
   ZexBuilder(args_, compilers_);
-}
-
-std::vector<CompilerRecord> Zex::queryCompilers(const std::string&, const std::string&, const std::string&) {
-  raiseNotAvailable(u"The compiler query");
 }
 
 }  // namespace zex_cmd

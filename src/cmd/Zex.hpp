@@ -23,10 +23,11 @@ class Zex : public ZexCmdI {
 
  private:
   void build();
+  std::vector<CompilerRecord> recordsOf(const std::string& kind) const;
 
-  boost::shared_ptr<ZexArgs> args_;  ///< record of the latest command; empty until the first
-  boost::shared_ptr<ZexCompilers>
-      compilers_;  ///< catalogue of the latest command that got past parsing; points to args_
+  boost::shared_ptr<ZexArgs> args_;            ///< record of the latest command; empty until the first
+  boost::shared_ptr<ZexCompilers> compilers_;  ///< of the latest command that got past parsing; points to args_
+  std::string queryKind_;                      ///< kind of a running compiler query; empty at all other times
 };
 
 }  // namespace zex_cmd

@@ -64,10 +64,14 @@ TEST_F(Commands, OptionsFileTellsTheLanguageOfTheVersionSource) {
   EXPECT_NE(tree.toolLog().find("cpp_zexapi_version.cpp"), std::string::npos);
 }
 
-TEST_F(Commands, RoutesThatAreNotThereFailClearly) {
-  for (const ustring word : {u"-help", u"-h", u"-ada", u"-setup"}) {
-    EXPECT_EQ(run({u"a.c", word}).substr(0, 16), "TESSEL:zex:Error");
-  }
+TEST_F(Commands, HelpWinsOverAllElseAndPrintsTheFileAsItIs) {
+  EXPECT_EQ(run({u"-badswitch", u"-output", u"-help"}), "no error");
+  EXPECT_EQ(tree.host.output, "The ZEX help file " + (tree.scratch.folder() / "root").string() +
+                                  "/bin/util/zex/zexHelp.txt not exists.\n");
+  tree.host.output.clear();
+  tree.scratch.write("root/bin/util/zex/zexHelp.txt", "100%s \xff\n\nlast");
+  EXPECT_EQ(run({u"-ada", u"-h"}), "no error");
+  EXPECT_EQ(tree.host.output, "100%s \xff\n\nlast\n");
   EXPECT_EQ(run({u"-H"}), "TESSEL:zex:UnknownSwitch(\"-H\")");
   EXPECT_EQ(run({u"-ADA"}), "TESSEL:zex:UnknownSwitch(\"-ADA\")");
 }

@@ -17,6 +17,13 @@ template <class Tag>
   throw Failure(offered, errorId);
 }
 
+/// Throws without telling the host: for failures that come out of the host's own values.
+template <class Tag>
+[[noreturn]] void throwDirectly(const msg::ErrorRecord<Tag>& record) {
+  using Failure = foundation::core::except::Exception<Tag, std::exception, void>;
+  throw Failure(Failure(record), Failure::get_error_id(record));
+}
+
 /// Turns the file system failure in flight into a message about `path`. Call it inside a catch clause for
 /// `fl::filesystem::FsysExceptionBase`; a type that it does not know keeps flying.
 [[noreturn]] void translateFilesystemError(const ustring& path);

@@ -1,0 +1,79 @@
+#include <algorithm>
+#include <cctype>
+
+#include "cmd/Zex.hpp"
+#include "cmd/messages/raise.hpp"
+#include "compilers/ZexCompilers.hpp"
+#include "fl/i18n/strings.hpp"
+#include "options/ZexOpt.hpp"
+
+namespace zex_cmd {
+
+namespace {
+
+constexpr const char* languageWords[] = {"c", "cpp", "c++", "fortran", "any"};
+constexpr const char* kindWords[] = {"selected", "installed", "supported", "default"};
+
+/// A PRIORITY that begins with this character or a higher one is never the default.
+constexpr char16_t priorityCeiling = 0x7a;
+
+std::string transformed(std::string text, int (*letter)(int)) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [letter](unsigned char character) { return static_cast<char>(letter(character)); });
+  return text;
+}
+
+/// The word in lower case, if the list has it.
+template <std::size_t Count>
+std::string lowerWordOf(const char* const (&words)[Count], const std::string& word) {
+  std::string lower = transformed(word, std::tolower);
+  if (std::find(std::begin(words), std::end(words), lower) == std::end(words)) {
+    raiseTyped(msg::UnknownSwitch(word));
+  }
+  return lower;
+}
+
+/// Only the first character counts here; an empty text is the least of all.
+char16_t priorityOf(const ZexOpt& opt) {
+  const ustring priority = opt.attribute(u"PRIORITY");
+  return priority.empty() ? u'\0' : priority.front();
+}
+
+}  // namespace
+
+std::vector<CompilerRecord> Zex::queryCompilers(const std::string& language, const std::string& kind,
+                                                const std::string& architecture) {
+  std::string word = lowerWordOf(languageWords, language);
+  const std::string lowerKind = lowerWordOf(kindWords, kind);
+  if (word == "cpp") word = "c++";
+
+  const boost::shared_ptr<ZexCompilers> former = compilers_;
+  queryKind_ = lowerKind;
+  // No guard: after a failure the kind stays, and the next setup command on this object still sees it. Settled so.
+  static_cast<ZexCmdI*>(this)->run({u"-setup", fl::i18n::to_ustring(transformed(word, std::toupper)),
+                                    u"-" + fl::i18n::to_ustring(architecture), u"-called_from_tessel"});
+  queryKind_.clear();
+  // An architecture word such as "help" sends the inner command past the catalogue; an older one is no answer.
+  if (compilers_ == former) return {};
+  return recordsOf(lowerKind);
+}
+
+std::vector<CompilerRecord> Zex::recordsOf(const std::string& kind) const {
+  std::vector<CompilerRecord> records;
+  const ZexOpt* best = nullptr;
+  char16_t lowest = priorityCeiling;
+  for (const auto& [path, opt] : compilers_->cachedOpts()) {
+    if (kind == "default") {
+      if (priorityOf(*opt) >= lowest) continue;
+      lowest = priorityOf(*opt);
+      best = opt.get();
+    } else if (kind == "supported" || (kind == "selected" && opt->selected) ||
+               (kind == "installed" && opt->installed)) {
+      records.push_back(opt->detailsMap());
+    }
+  }
+  if (best != nullptr) records.push_back(best->detailsMap());
+  return records;
+}
+
+}  // namespace zex_cmd
