@@ -10,8 +10,8 @@ install(
   ARCHIVE DESTINATION lib)
 
 install(DIRECTORY host/include/ DESTINATION include/zexcmd)
-install(FILES src/cmd/ZexCmdI.hpp src/cmd/ZexCmdFactory.hpp src/cmd/visibility.hpp DESTINATION include/zexcmd/cmd)
-install(FILES src/cmd/messages/Exception.hpp src/cmd/messages/MessageRecord.hpp src/cmd/messages/error_tags.hpp
+install(FILES src/cmd/ZexCmdI.hpp src/cmd/ZexCmdFactory.hpp DESTINATION include/zexcmd/cmd)
+install(FILES src/cmd/messages/Exception.hpp src/cmd/messages/MessageRecord.hpp src/cmd/messages/error_tags.hpp src/cmd/messages/visibility.hpp
         DESTINATION include/zexcmd/cmd/messages)
 
 install(EXPORT zexcmdTargets NAMESPACE zexcmd:: DESTINATION lib/cmake/zexcmd)

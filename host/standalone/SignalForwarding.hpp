@@ -11,6 +11,7 @@ namespace host::standalone {
 /// a process group. At most one object at a time.
 class SignalForwarding {
  public:
+  /// Those that end a program on a user's or the system's word.
   static constexpr std::array<int, 4> signals = {SIGINT, SIGTERM, SIGHUP, SIGQUIT};
 
   SignalForwarding();

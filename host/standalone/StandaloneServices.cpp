@@ -3,11 +3,13 @@
 #include <cstdio>
 #include <utility>
 
+#include "fl/filesystem/exceptions.hpp"
 #include "fl/filesystem/operations.hpp"
 #include "fl/filesystem/path_names.hpp"
 #include "fl/i18n/MessageCatalog.hpp"
 #include "fl/i18n/environment.hpp"
 #include "fl/i18n/strings.hpp"
+#include "standalone/host_functions.hpp"
 #include "standalone/locale_name.hpp"
 #include "standalone/places.hpp"
 #include "standalone/separators.hpp"
@@ -21,9 +23,27 @@ fl::ustring withoutTrailingSeparator(fl::ustring path) {
   return path;
 }
 
+fl::ustring absoluteIfPossible(const fl::ustring& path) {
+  try {
+    return fl::filesystem::absolute(path);
+  } catch (const fl::filesystem::FsysExceptionBase&) {
+    // The current folder is gone. Failures are shown with the help of this folder, so it may not fail itself.
+    return path;
+  }
+}
+
+void makeIfPossible(const fl::ustring& folder) {
+  try {
+    fl::filesystem::create_directories(folder);
+  } catch (const fl::filesystem::FsysExceptionBase&) {
+    // Whoever looks into the folder fails with a message of its own.
+  }
+}
+
 }  // namespace
 
-StandaloneServices::StandaloneServices(std::string programName) : programName_(std::move(programName)) {}
+StandaloneServices::StandaloneServices(std::string programName, Tdispatcher* dispatcher)
+    : programName_(std::move(programName)), dispatcher_(dispatcher) {}
 
 void StandaloneServices::write(std::string_view text) {
   std::fwrite(text.data(), 1, text.size(), stdout);
@@ -40,17 +60,23 @@ void StandaloneServices::showWarning(const resource_core::BaseMsgID& record) {
 fl::ustring StandaloneServices::installFolder() const {
   const fl::ustring told = fl::i18n::getenv("TESSEL_ROOT");
   if (told.empty()) return folderTreeOfThisLibrary();
-  return withoutTrailingSeparator(fl::filesystem::absolute(told));
+  return withoutTrailingSeparator(absoluteIfPossible(told));
 }
 
 fl::ustring StandaloneServices::preferencesFolder(bool create) const {
   fl::ustring folder = withoutTrailingSeparator(userPreferencesFolder());
-  if (create) fl::filesystem::create_directories(folder);
+  if (create) makeIfPossible(folder);
   return folder;
 }
 
 std::string StandaloneServices::locale() const {
   return localeOfEnvironment();
+}
+
+zxArray* StandaloneServices::callFunction(const std::string& name, int outputCount, zxArray* outputs[],
+                                          int inputCount, zxArray* inputs[]) {
+  if (name != "zl") return Services::callFunction(name, outputCount, outputs, inputCount, inputs);
+  return callTrapped(*this, name, zl, {{inputs, inputs + inputCount}, {outputs, outputs + outputCount}});
 }
 
 }  // namespace host::standalone

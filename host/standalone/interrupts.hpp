@@ -1,14 +1,29 @@
 #pragma once
 
+#include <exception>
+
 #include "host/visibility.hpp"
 
 namespace host::standalone {
 
-/// For programs, called once at the start: from then on SIGINT, SIGTERM and SIGHUP are only noted, so that a
-/// command unwinds and cleans up in place of dying where it stands. A signal that is ignored stays so.
+/// For programs, called once at the start: from then on SIGINT, SIGTERM, SIGHUP and SIGQUIT are only noted, so
+/// that a command unwinds and cleans up in place of dying where it stands, and a closed output pipe shows as a
+/// failed write for the same reason. A signal that is ignored stays so.
 ZEXHOST_API void installInterruptHandlers();
 
 /// The first signal that was noted, or 0. It stays noted: no further shell line starts.
 ZEXHOST_API int pendingInterrupt();
+
+/// Ends the command of an interrupted program. Carries no identifier: it is no answer to anything the command
+/// asked.
+class ZEXHOST_API Interrupted : public std::exception {
+ public:
+  explicit Interrupted(int signal) : signal_(signal) {}
+  const char* what() const noexcept override { return "interrupted"; }
+  int signal() const { return signal_; }
+
+ private:
+  int signal_;
+};
 
 }  // namespace host::standalone

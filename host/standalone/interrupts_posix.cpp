@@ -1,13 +1,12 @@
 #include <atomic>
 #include <csignal>
 
+#include "standalone/SignalForwarding.hpp"
 #include "standalone/interrupts.hpp"
 
 namespace host::standalone {
 
 namespace {
-
-constexpr int notedSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
 std::atomic<int> firstNoted = 0;
 static_assert(std::atomic<int>::is_always_lock_free, "a signal handler may take no lock");
@@ -24,11 +23,13 @@ void installInterruptHandlers() {
   noting.sa_handler = note;
   noting.sa_flags = SA_RESTART;
   sigemptyset(&noting.sa_mask);
-  for (const int signal : notedSignals) {
+  for (const int signal : SignalForwarding::signals) {
     struct sigaction former {};
     sigaction(signal, nullptr, &former);
     if (former.sa_handler != SIG_IGN) sigaction(signal, &noting, nullptr);
   }
+  // Dying of a closed pipe would leave the temporary folder behind.
+  std::signal(SIGPIPE, SIG_IGN);
 }
 
 int pendingInterrupt() {

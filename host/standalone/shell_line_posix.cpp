@@ -6,7 +6,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <memory>
+#include <cstdlib>
 #include <mutex>
 #include <optional>
 #include <string>
@@ -23,15 +23,33 @@ namespace host::standalone {
 
 namespace {
 
+int openUnnamedIn(const std::string& folder) {
+  std::string name = folder + "/zex_XXXXXX";
+  const int descriptor = mkostemp(name.data(), O_CLOEXEC);
+  if (descriptor >= 0) unlink(name.c_str());
+  return descriptor;
+}
+
+/// In the first folder that takes it, in the order of the driver's own temporary files. -1: errno says why not.
+int openUnnamed() {
+  for (const char* variable : {"TMPDIR", "TMP", "TEMP"}) {
+    const char* const folder = std::getenv(variable);
+    if (folder == nullptr || *folder == '\0') continue;
+    if (const int descriptor = openUnnamedIn(folder); descriptor >= 0) return descriptor;
+  }
+  return openUnnamedIn(P_tmpdir);
+}
+
 /// An unnamed file that takes one output stream. A pipe would keep us waiting for a child that the line leaves in
 /// the background.
 class CaptureFile {
  public:
   CaptureFile() {
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::tmpfile(), std::fclose);
+    const int opened = openUnnamed();
     // Above the three standard ones: in a process with one of those closed, the file could have taken its place.
-    if (file) descriptor_ = fcntl(fileno(file.get()), F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    if (opened >= 0) descriptor_ = fcntl(opened, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
     if (descriptor_ < 0) error_ = errno;
+    if (opened >= 0) close(opened);
   }
   ~CaptureFile() {
     if (descriptor_ >= 0) close(descriptor_);
@@ -120,11 +138,15 @@ int reap(pid_t child) {
   return WIFSIGNALED(status) ? statusAfterDeathBy(WTERMSIG(status)) : WEXITSTATUS(status);
 }
 
+void stopIfInterrupted() {
+  if (const int signal = pendingInterrupt(); signal != 0) throw Interrupted(signal);
+}
+
 /// Starts the line and sees it through; the status is the shell's, or the system's error number.
 ShellResult run(std::string line) {
   SignalForwarding forwarding;
   // Looked at after the handlers stand: what comes later is forwarded.
-  if (const int signal = pendingInterrupt(); signal != 0) return withoutText(statusAfterDeathBy(signal));
+  stopIfInterrupted();
 
   const CaptureFile output;
   if (output.error() != 0) return withoutText(output.error());
@@ -161,7 +183,10 @@ ShellResult StandaloneServices::runShellLine(const fl::ustring& line, bool /*cal
   static std::mutex oneAtATime;
   const std::lock_guard lock(oneAtATime);
   std::fflush(stdout);
-  return run(std::move(*bytes));
+  const ShellResult result = run(std::move(*bytes));
+  // A line that an interrupt ended must not pass for one that failed by itself.
+  stopIfInterrupted();
+  return result;
 }
 
 }  // namespace host::standalone

@@ -93,6 +93,19 @@ TEST(Standalone, InstallFolderIsToldOrFoundFromTheLibrary) {
   EXPECT_NE(services.installFolder(), scratch.path());
 }
 
+TEST(Standalone, FoldersAreToldEvenWhereNothingCanBeDoneWithThem) {
+  const zex_test::Scratch scratch;
+  scratch.write("file", "");
+  const ScopedVariable xdg("XDG_CONFIG_HOME", (scratch.folder() / "file").c_str());
+  EXPECT_EQ(settings::core::getPreferencesDirectoryUStr(true), scratch.path("file/tessel/R2018a"));
+
+  std::filesystem::create_directory("gone");
+  std::filesystem::current_path("gone");
+  std::filesystem::remove("../gone");
+  const ScopedVariable root("TESSEL_ROOT", "tree/");
+  EXPECT_EQ(StandaloneServices().installFolder(), u"tree");
+}
+
 TEST(Standalone, PreferencesFollowTheDesktopConvention) {
   const zex_test::Scratch scratch;
   const ScopedVariable home("HOME", scratch.folder().c_str()), xdg("XDG_CONFIG_HOME", "relative/is/ignored");

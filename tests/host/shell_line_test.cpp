@@ -5,6 +5,8 @@
 
 #include <cerrno>
 #include <chrono>
+#include <cstdio>
+#include <functional>
 
 #include "standalone/StandaloneServices.hpp"
 #include "standalone/interrupts.hpp"
@@ -13,6 +15,7 @@
 namespace {
 
 using fl::ustring;
+using host::standalone::installInterruptHandlers;
 using host::standalone::pendingInterrupt;
 
 host::ShellResult run(const ustring& line) {
@@ -54,6 +57,20 @@ TEST(ShellLine, LeavesNoDescriptorBehind) {
   EXPECT_EQ(told(u"ls -l /proc/$$/fd | grep -c deleted"), "0 2\n") << "the line holds more than its two streams";
 }
 
+TEST(ShellLine, CapturesInTheFirstTemporaryFolderThatTakesIt) {
+  const zex_test::Scratch scratch;
+  scratch.write("one/file", "");
+  scratch.write("two/file", "");
+  const auto captureFolder = [] { return run(u"dirname \"$(readlink /proc/$$/fd/1)\"").text; };
+  const zex_test::ScopedVariable tmpdir("TMPDIR", "missing"), tmp("TMP", ""), temp("TEMP", "one");
+  EXPECT_EQ(captureFolder(), scratch.path("one\n"));
+  const zex_test::ScopedVariable first("TMPDIR", "two");
+  EXPECT_EQ(captureFolder(), scratch.path("two\n"));
+  EXPECT_EQ(scratch.names("one").size() + scratch.names("two").size(), 2U);
+  const zex_test::ScopedVariable none("TMPDIR", nullptr), noneEither("TEMP", nullptr);
+  EXPECT_EQ(captureFolder(), u"" P_tmpdir "\n");
+}
+
 /// Runs a check in a process of its own, for it changes the signals of the whole process.
 template <class Check>
 int exitOf(Check check) {
@@ -64,30 +81,61 @@ int exitOf(Check check) {
   return status;
 }
 
-/// A line during which this process is interrupted, by a child once the line's tool is sure to run.
-bool endsByInterrupt() {
+/// Interrupts this process, by a child once the line's tool is sure to run.
+const ustring interruptedLine = u"(sleep 0.2; kill -INT $PPID) & sleep 20; echo not interrupted";
+
+bool isQuick(const std::function<bool()>& check) {
   const auto start = std::chrono::steady_clock::now();
-  const auto [status, text] = run(u"(sleep 0.2; kill -INT $PPID) & sleep 20; echo not interrupted");
-  const bool atOnce = std::chrono::steady_clock::now() - start < std::chrono::seconds(10);
-  return status == 128 + SIGINT && text.empty() && atOnce;
+  return check() && std::chrono::steady_clock::now() - start < std::chrono::seconds(10);
+}
+
+bool endsByInterrupt() {
+  return isQuick([] { return told(interruptedLine) == std::to_string(128 + SIGINT) + " "; });
+}
+
+/// The signal with which a line raises Interrupted; 0 where it does not.
+int signalRaisedBy(const ustring& line) {
+  try {
+    run(line);
+  } catch (const host::standalone::Interrupted& interrupted) {
+    return interrupted.signal();
+  }
+  return 0;
 }
 
 volatile sig_atomic_t handled = 0;
 
-TEST(Interrupts, GoToTheLineAndAreNotedForPrograms) {
+TEST(Interrupts, GoToTheLineAndEndTheCommandOfAProgram) {
   const zex_test::Scratch scratch;
   EXPECT_EQ(0, exitOf([] {
-              host::standalone::installInterruptHandlers();
-              return pendingInterrupt() == 0 && endsByInterrupt() && pendingInterrupt() == SIGINT &&
-                     run(u"touch started").status == 128 + SIGINT;
+              installInterruptHandlers();
+              return pendingInterrupt() == 0 &&
+                     isQuick([] { return signalRaisedBy(interruptedLine) == SIGINT; }) &&
+                     pendingInterrupt() == SIGINT && signalRaisedBy(u"touch started") == SIGINT;
+            }));
+  // Also where the line itself took no harm and succeeds.
+  EXPECT_EQ(0, exitOf([] {
+              installInterruptHandlers();
+              return signalRaisedBy(u"trap '' HUP; kill -HUP $PPID; sleep 0.2") == SIGHUP;
             }));
   EXPECT_EQ(0, exitOf([] {
-              host::standalone::installInterruptHandlers();
-              raise(SIGTERM);
+              installInterruptHandlers();
+              raise(SIGQUIT);
               raise(SIGINT);
-              return run(u"touch started").status == 128 + SIGTERM;
+              return signalRaisedBy(u"touch started") == SIGQUIT;
             }));
   EXPECT_FALSE(scratch.has("started"));
+}
+
+TEST(Interrupts, AClosedPipeIsAFailedWriteForTheProgramAlone) {
+  EXPECT_EQ(0, exitOf([] {
+              installInterruptHandlers();
+              int ends[2] = {};
+              if (pipe(ends) != 0) return false;
+              close(ends[0]);
+              return write(ends[1], "x", 1) == -1 && errno == EPIPE &&
+                     run(u"kill -PIPE $$").status == 128 + SIGPIPE;
+            }));
 }
 
 TEST(Interrupts, LeaveTheSignalsOfAnEmbedderAsTheyWere) {
@@ -99,7 +147,7 @@ TEST(Interrupts, LeaveTheSignalsOfAnEmbedderAsTheyWere) {
             }));
   EXPECT_EQ(0, exitOf([] {
               signal(SIGINT, SIG_IGN);
-              host::standalone::installInterruptHandlers();
+              installInterruptHandlers();
               return run(u"kill -INT $PPID; kill -INT $$; echo on").text == u"on\n" && pendingInterrupt() == 0;
             }));
 }

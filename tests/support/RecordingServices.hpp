@@ -1,10 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "host/Services.hpp"
+#include "standalone/HostValue.hpp"
 
 namespace zex_test {
 
@@ -23,6 +25,11 @@ class RecordingServices : public host::Services {
   fl::ustring preferences;  ///< preferences folder that the host tells
   Tdispatcher* dispatch = nullptr;
   std::vector<std::string> shellLines;  ///< lines given to the shell; they really run
+  std::vector<bool> shellFlags;         ///< and whether each came as called from the host
+  /// Calls of host functions: the name and the inputs, "?" for one that is no text.
+  std::vector<std::vector<std::string>> calls;
+  /// Fields of the exception object that every function but "getfield" answers with; nothing: all goes well.
+  std::optional<host::standalone::HostValue::Fields> failure;
 
   void write(std::string_view text) override { output += text; }
   bool outputIsHot() const override { return hot; }
@@ -33,6 +40,8 @@ class RecordingServices : public host::Services {
   std::string locale() const override { return "id"; }
   Tdispatcher* dispatcher() override { return dispatch; }
   host::ShellResult runShellLine(const fl::ustring& line, bool calledFromHost) override;
+  zxArray* callFunction(const std::string& name, int outputCount, zxArray* outputs[], int inputCount,
+                        zxArray* inputs[]) override;
 
  private:
   host::Services* previous_;

@@ -9,6 +9,7 @@
 #include "foundation/core/except/IException.hpp"
 #include "host/visibility.hpp"
 #include "resource_core/BaseMsgID.hpp"
+#include "zx/zxArray.hpp"
 
 class Tdispatcher;
 
@@ -53,6 +54,13 @@ class ZEXHOST_API Services {
   /// Runs one line through the system's shell and waits for its end, without a time limit. Standard input is
   /// empty. `calledFromHost` says that the host asked for the command on its own behalf.
   virtual ShellResult runShellLine(const fl::ustring& line, bool calledFromHost) = 0;
+
+  /// Calls a function of the host by name. The inputs stay the caller's. `outputs` has `outputCount` places, null
+  /// at the start; what the function puts there becomes the caller's. Gives null where all went well, else an
+  /// exception object (see host/values.hpp), which becomes the caller's too. The default knows "getfield" of an
+  /// exception object, without which no failure can be read, and fails for every other name.
+  virtual zxArray* callFunction(const std::string& name, int outputCount, zxArray* outputs[], int inputCount,
+                                zxArray* inputs[]);
 
   /// The keyed store of the virtual machine that these services stand for. It lives as long as they do.
   foundation::usm::Store& store() { return *store_; }

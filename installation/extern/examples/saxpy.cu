@@ -1,58 +1,65 @@
-// Adds a scaled vector to another on the first CUDA device and checks the result. Build it with:  zex saxpy.cu
+// Adds a scaled matrix to another on the first CUDA device: z = a x + y.
+//
+//     zex saxpy.cu
+//     zexrun saxpy.zexa64 2.5 "[1 2 3]" "[10 20 30]"
 
-#include <cmath>
-#include <cstdio>
-#include <vector>
+#include <zex.h>
 
 namespace {
 
-constexpr int count = 1 << 20;
-constexpr float scale = 2.5f;
-
-__global__ void saxpy(int n, float a, const float* x, float* y) {
-  const int i = blockIdx.x * blockDim.x + threadIdx.x;
-  if (i < n) y[i] = a * x[i] + y[i];
+__global__ void addScaled(zxIndex count, double factor, const double* x, double* sums) {
+  const zxIndex index = static_cast<zxIndex>(blockIdx.x) * blockDim.x + threadIdx.x;
+  if (index < count) sums[index] += factor * x[index];
 }
 
-cudaError_t saxpyOnDevice(const std::vector<float>& x, std::vector<float>& y) {
-  const size_t size = x.size() * sizeof(float);
-  float* deviceX = nullptr;
-  float* deviceY = nullptr;
-  cudaError_t status = cudaMalloc(&deviceX, size);
-  if (status == cudaSuccess) status = cudaMalloc(&deviceY, size);
-  if (status == cudaSuccess) status = cudaMemcpy(deviceX, x.data(), size, cudaMemcpyHostToDevice);
-  if (status == cudaSuccess) status = cudaMemcpy(deviceY, y.data(), size, cudaMemcpyHostToDevice);
-  if (status == cudaSuccess) {
-    saxpy<<<(count + 255) / 256, 256>>>(count, scale, deviceX, deviceY);
-    status = cudaGetLastError();
+// Elements in the memory of the device.
+class OnDevice {
+ public:
+  explicit OnDevice(zxIndex count) : size_(static_cast<size_t>(count) * sizeof(double)) {
+    check(cudaMalloc(&elements_, size_));
   }
-  if (status == cudaSuccess) status = cudaMemcpy(y.data(), deviceY, size, cudaMemcpyDeviceToHost);
-  cudaFree(deviceX);
-  cudaFree(deviceY);
-  return status;
-}
+  ~OnDevice() { cudaFree(elements_); }
+  OnDevice(const OnDevice&) = delete;
+  OnDevice& operator=(const OnDevice&) = delete;
+
+  void take(const double* from) { check(cudaMemcpy(elements_, from, size_, cudaMemcpyHostToDevice)); }
+  void give(double* to) const { check(cudaMemcpy(to, elements_, size_, cudaMemcpyDeviceToHost)); }
+  double* elements() const { return elements_; }
+
+  static void check(cudaError_t status) {
+    if (status != cudaSuccess) {
+      zexFail("saxpy:device", "There is no CUDA device to compute on, or it failed: %s.", cudaGetErrorString(status));
+    }
+  }
+
+ private:
+  size_t size_;
+  double* elements_ = nullptr;
+};
 
 }  // namespace
 
-// The entry point that a loader calls.
-extern "C" void zexFunction() {
-  std::vector<float> x(count);
-  std::vector<float> y(count);
-  std::vector<float> expected(count);
-  for (int i = 0; i < count; ++i) {
-    x[i] = static_cast<float>(i % 1000);
-    y[i] = 1.0f;
-    expected[i] = scale * x[i] + y[i];
+void zexFunction(int nlhs, zxArray* plhs[], int nrhs, const zxArray* prhs[]) {
+  if (nrhs != 3 || nlhs > 1) zexFail("saxpy:arguments", "Use: z = saxpy(a, x, y). There are %d inputs.", nrhs);
+  const zxIndex rows = zxRowsOf(prhs[2]);
+  const zxIndex columns = zxColumnsOf(prhs[2]);
+  if (zxRowsOf(prhs[1]) != rows || zxColumnsOf(prhs[1]) != columns) {
+    zexFail("saxpy:sizes", "x and y must be of the same size.");
   }
+  const double factor = zxNumber(prhs[0]);
+  const double* const x = zxReadReals(prhs[1]);
+  const double* const y = zxReadReals(prhs[2]);
+  plhs[0] = zxMake(ZX_REAL, rows, columns);
+  const zxIndex count = zxCountOf(plhs[0]);
+  if (count == 0) return;
 
-  const cudaError_t status = saxpyOnDevice(x, y);
-  if (status != cudaSuccess) {
-    std::printf("The device could not be used: %s.\n", cudaGetErrorString(status));
-    std::fflush(stdout);
-    return;
-  }
-  float worst = 0;
-  for (int i = 0; i < count; ++i) worst = std::fmax(worst, std::fabs(y[i] - expected[i]));
-  std::printf("%d sums computed on the device; the largest error is %g.\n", count, static_cast<double>(worst));
-  std::fflush(stdout);
+  OnDevice scaled(count);
+  OnDevice sums(count);
+  scaled.take(x);
+  sums.take(y);
+  const unsigned int threads = 256;
+  const unsigned int blocks = static_cast<unsigned int>((count + threads - 1) / threads);
+  addScaled<<<blocks, threads>>>(count, factor, scaled.elements(), sums.elements());
+  OnDevice::check(cudaGetLastError());
+  sums.give(zxEditReals(plhs[0]));
 }
