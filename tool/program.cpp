@@ -2,9 +2,11 @@
 
 #include <cstdio>
 #include <exception>
+#include <new>
 
 #include "cmd/ZexCmdFactory.hpp"
 #include "environment.hpp"
+#include "fl/filesystem/exceptions.hpp"
 #include "fl/i18n/MessageCatalog.hpp"
 #include "fl/i18n/strings.hpp"
 #include "foundation/core/except/IException.hpp"
@@ -18,6 +20,7 @@ namespace {
 
 constexpr int failed = 1;
 constexpr int failedInside = 2;
+constexpr int killedBySignal = 128;  ///< and the signal's number, as a shell tells it
 
 void showError(const std::string& line) {
   std::fflush(stdout);
@@ -29,24 +32,52 @@ std::string withoutLineEnd(std::string text) {
   return text;
 }
 
-int showText(const std::string& name, const fl::ustring& text, const std::string& errorId) {
-  showError(name + ": error: " + withoutLineEnd(fl::i18n::to_string(text)) + " [" + errorId + "]");
+int showWithId(const std::string& name, const std::string& text, const std::string& errorId) {
+  showError(name + ": error: " + withoutLineEnd(text) + " [" + errorId + "]");
   return failed;
 }
 
-int showFailure(const std::string& name, const foundation::core::except::IMsgIDException& failure) {
-  const fl::ustring text = fl::i18n::MessageCatalog::get_message(failure.message(), fl::i18n::ZwLocale::global());
-  return showText(name, text, failure.error_id());
+/// The words of a message, or its identifier and arguments where something fails on the way to the words.
+std::string wordsOf(const resource_core::BaseMsgID& message) {
+  using fl::i18n::MessageCatalog;
+  using fl::i18n::ZwLocale;
+  try {
+    return fl::i18n::to_string(MessageCatalog::get_message(message, ZwLocale::global()));
+  } catch (const std::exception&) {
+    return fl::i18n::to_string(MessageCatalog::get_message(message, ZwLocale("id")));
+  }
 }
 
-int showUsage(const std::string& name, const UsageError& failure) {
+/// For what needs no identifier: no text of the library's.
+int showPlain(const std::string& name, const std::exception& failure, int status) {
   showError(name + ": error: " + failure.what());
-  return failed;
+  return status;
 }
 
 int showInternalError(const std::string& name, const std::string& text) {
   showError(name + ": internal error: " + text);
   return failedInside;
+}
+
+/// Shows the failure in flight and gives the exit status for it.
+int showCaught(const std::string& name) {
+  try {
+    throw;
+  } catch (const host::standalone::Interrupted& failure) {
+    return showPlain(name, failure, killedBySignal + failure.signal());
+  } catch (const Korvane::TException::HostError& failure) {
+    return showWithId(name, fl::i18n::to_string(failure.text()), failure.error_id());
+  } catch (const foundation::core::except::IMsgIDException& failure) {
+    return showWithId(name, wordsOf(failure.message()), failure.error_id());
+  } catch (const fl::filesystem::FsysExceptionBase& failure) {
+    return showWithId(name, failure.what(), "TESSEL:zex:FileSystemException");
+  } catch (const UsageError& failure) {
+    return showPlain(name, failure, failed);
+  } catch (const std::exception& failure) {
+    return showInternalError(name, failure.what());
+  } catch (...) {
+    return showInternalError(name, "unknown failure");
+  }
 }
 
 std::vector<fl::ustring> argumentsOf(int count, char** values) {
@@ -56,38 +87,42 @@ std::vector<fl::ustring> argumentsOf(int count, char** values) {
   return arguments;
 }
 
-int runGuarded(const std::string& name, const std::vector<fl::ustring>& arguments, const Action& action) {
-  try {
+void answer(const std::string& name, const std::vector<fl::ustring>& arguments, const Action& action) {
+  if (arguments.size() == 1 && arguments.front() == u"--version") {
+    std::printf("%s %s\n", name.c_str(), libzexcmd_version);
+  } else {
     action(arguments);
-  } catch (const Korvane::TException::HostError& failure) {
-    return showText(name, failure.text(), failure.error_id());
-  } catch (const foundation::core::except::IMsgIDException& failure) {
-    return showFailure(name, failure);
-  } catch (const UsageError& failure) {
-    return showUsage(name, failure);
-  } catch (const std::exception& failure) {
-    return showInternalError(name, failure.what());
-  } catch (...) {
-    return showInternalError(name, "unknown failure");
   }
-  return 0;
+}
+
+int runGuarded(const std::string& name, int count, char** values, const Action& action) {
+  try {
+    try {
+      prepareEnvironment();
+      answer(name, argumentsOf(count, values), action);
+      return 0;
+    } catch (...) {
+      return showCaught(name);
+    }
+  } catch (...) {
+    std::fputs("internal error: a failure could not be shown\n", stderr);
+    return failedInside;
+  }
 }
 
 }  // namespace
 
+std::unique_ptr<zex_cmd::ZexCmdI> createCommand() {
+  std::unique_ptr<zex_cmd::ZexCmdI> command(zex_cmd::ZexCmdFactory::createZex());
+  if (!command) throw std::bad_alloc();
+  return command;
+}
+
 int runProgram(const std::string& name, int count, char** values, const Action& action) {
-  prepareEnvironment();
   host::standalone::installInterruptHandlers();
   host::standalone::StandaloneServices services(name);
   host::installServices(&services);
-
-  const std::vector<fl::ustring> arguments = argumentsOf(count, values);
-  int status = 0;
-  if (arguments.size() == 1 && arguments.front() == u"--version") {
-    std::printf("%s %s\n", name.c_str(), libzexcmd_version);
-  } else {
-    status = runGuarded(name, arguments, action);
-  }
+  int status = runGuarded(name, count, values, action);
   host::installServices(nullptr);
   // A full disk or a closed pipe must not pass for success.
   if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {

@@ -50,9 +50,7 @@ void printCompilers(const std::vector<fl::ustring>& arguments) {
     return;
   }
   const Query query = queryOf(arguments);
-  const std::unique_ptr<zex_cmd::ZexCmdI> zex(zex_cmd::ZexCmdFactory::createZex());
-  if (!zex) throw std::bad_alloc();
-  const auto records = zex->queryCompilers(query.language, query.kind, query.architecture);
+  const auto records = tool::createCommand()->queryCompilers(query.language, query.kind, query.architecture);
   std::fputs((query.json ? tool::jsonOf(records) : tool::tableOf(records)).c_str(), stdout);
 }
 

@@ -51,7 +51,10 @@ class ZexArgs {
   std::string release;   ///< API release, "R2017b", "R2018a" or a zero form; empty without a switch
   bool zexCheck = true;  ///< check the product after linking
 
-  /// Parses a raw argument list, without the tool's own name. Raises the messages of a bad command line.
+  /// Parses a raw argument list, without the tool's own name. Raises "TESSEL:legacy_two_part:minrhs" where there
+  /// is nothing to do and, of "TESSEL:zex:": UnknownSwitch, ErrOption, IncompatibleSwitches, ErrorFortranR2018a
+  /// and UnknownClient for switches; SrcNotFound, UnknownExt, UnknownLanguage, MixLang and FileCannotOpen for
+  /// files and words; NotADirectory, AccessDenied, FileNameTooLarge, FileNameConversionFailed and Error for paths.
   void parseArguments(const std::vector<ustring>& raw);
 
   void walkTokens(const std::vector<ustring>& tokens);
@@ -72,7 +75,10 @@ class ZexArgs {
   /// `byName`: from -l, otherwise a library file on the line.
   void addLibrary(const ustring& name, bool byName);
 
-  /// Takes the language of an extension into the list, or raises "TESSEL:zex:MixLang".
+  /// The language of a file or switch joins those of the command.
+  void takeLanguageOf(const std::string& extension);
+
+  /// Takes the language of an extension into a list that has one, or raises "TESSEL:zex:MixLang".
   void mergeLanguage(std::vector<std::string>& list, const std::string& extension) const;
   std::string languageOfExtension(const std::string& extension) const;
   std::string languageFromName(const std::string& word) const;

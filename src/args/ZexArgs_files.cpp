@@ -41,11 +41,7 @@ void takeSetupLanguage(ZexArgs& args, const ustring& token) {
 
 void takeSource(ZexArgs& args, const ustring& path, const std::string& extension) {
   args.addSources(path);
-  if (args.languages.empty()) {
-    args.languages.push_back(args.languageOfExtension(extension));
-  } else {
-    args.mergeLanguage(args.languages, extension);
-  }
+  args.takeLanguageOf(extension);
 }
 
 void sortFile(ZexArgs& args, const ustring& token) {
@@ -65,7 +61,7 @@ void appendMatches(std::vector<ustring>& sources, const ustring& path) {
   for (const auto& entry : fs::upath_directory_iterator(folder, {pattern})) {
     const ustring source = entry.full_pathname();
     // A name that a pattern found can be as unfit for a command as a typed one.
-    fullPath(source);
+    requireUsablePath(source);
     sources.push_back(source);
   }
 }

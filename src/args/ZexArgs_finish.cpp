@@ -45,7 +45,8 @@ ustring outputFolder(const ZexArgs& args) {
 
 void prepareOutputFolder(const ZexArgs& args) {
   if (args.dryRun) return;
-  ustring folder = args.output;
+  // What a failure names until the folder is known: only the current folder can fail to be told then.
+  ustring folder = args.output.empty() ? ustring(u".") : args.output;
   try {
     folder = outputFolder(args);
     if (!fs::exists(folder)) {

@@ -49,6 +49,11 @@ std::string ZexArgs::languageFromName(const std::string& word) const {
   return *language;
 }
 
+void ZexArgs::takeLanguageOf(const std::string& extension) {
+  if (!languages.empty()) return mergeLanguage(languages, extension);
+  languages.push_back(languageOfExtension(extension));
+}
+
 void ZexArgs::mergeLanguage(std::vector<std::string>& list, const std::string& extension) const {
   const std::string language = languageOfExtension(extension);
   if (holds(list, language)) return;

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <iterator>
 
 #include "args/ZexArgs.hpp"
@@ -24,6 +25,8 @@ std::vector<ustring> tokensOfFile(const ustring& path) {
   const fl::i18n::codecvt_string_to_ustring decode;
   std::vector<ustring> result;
   for (std::string line; std::getline(stream, line);) {
+    // Files that were written on another system end their lines with one.
+    if (line.ends_with('\r')) line.pop_back();
     std::vector<ustring> pieces = splitTokens(decode(line), u" ");
     std::move(pieces.begin(), pieces.end(), std::back_inserter(result));
   }

@@ -83,10 +83,8 @@ Verdict takeC(ZexArgs& args, Switch& item) {
     takeClient(args, item.nextValue());
   } else if (item.token == u"-compatibleArrayDims") {
     args.compatibleArrayDims = true;
-  } else if (item.form == "-cxx" && args.languages.empty()) {
-    args.languages.push_back("C++");
   } else if (item.form == "-cxx") {
-    args.mergeLanguage(args.languages, ".cpp");
+    args.takeLanguageOf(".cpp");
   } else {
     return Verdict::Unknown;
   }

@@ -5,6 +5,7 @@
 #include "fl/filesystem/operations.hpp"
 #include "fl/filesystem/path_names.hpp"
 #include "fl/i18n/strings.hpp"
+#include "platform/paths.hpp"
 #include "platform/quoting.hpp"
 #include "platform/tokens.hpp"
 
@@ -25,8 +26,9 @@ void storePostlinkCommands(ZexArgs& args, const ustring& value) {
 
 void useTempFolder(ZexArgs& args, const ustring& value) {
   if (value.empty()) return;
-  args.tempDir = fl::filesystem::detail::make_native_form(value);
   try {
+    requireUsablePath(value);
+    args.tempDir = fl::filesystem::detail::make_native_form(value);
     if (!fl::filesystem::exists(args.tempDir)) fl::filesystem::create_directories(args.tempDir);
   } catch (const fl::filesystem::FsysExceptionBase&) {
     translateFilesystemError(value);

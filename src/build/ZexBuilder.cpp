@@ -1,7 +1,10 @@
 #include "build/ZexBuilder.hpp"
 
+#include <optional>
+
 #include "args/ZexArgs.hpp"
 #include "build/ZexEnvironmentGuard.hpp"
+#include "build/compiler_versions.hpp"
 #include "build/loaded_product.hpp"
 #include "build/option_details.hpp"
 #include "build/user_libraries.hpp"
@@ -37,6 +40,8 @@ ZexBuilder::ZexBuilder(const boost::shared_ptr<ZexArgs>& args, const boost::shar
   if (product) releaseLoadedProduct(*product);
 
   if (!args_->silent) printMessage(msg::Building(option->attribute(u"NAME")));
+  checkGccVersion(*option, args_->calledFromHost);
+  checkMinGwVersion(*option, args_->calledFromHost);
   runCommands(option);
   if (wantsClosingNotice(*args_)) printMessage(msg::Complete());
   if (args_->calledFromHost && !args_->compileOnly) notifyPathManager(product.value_or(ustring()));

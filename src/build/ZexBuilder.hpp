@@ -26,12 +26,18 @@ class ZexBuilder {
 
   void executeCommand();
   void printCommand() const;
+
+  /// Inspects the product of a link and, where the API version source does not agree with the sources, compiles
+  /// that one again and repeats the link.
+  void checkBuiltFile();
   void retryHeaderOrder() const;
 
   const boost::shared_ptr<ZexArgs>& args_;
   const boost::shared_ptr<ZexCompilers>& compilers_;
   bool linkSeen_ = false;
   ZexBuildCommand current_;
+  ZexBuildCommand
+      versionCompile_;  ///< the last good compile of the API version source, while products are checked
 };
 
 }  // namespace zex_cmd

@@ -1,7 +1,10 @@
+#include <optional>
+
 #include "args/ZexArgs.hpp"
 #include "build/CommandClassifier.hpp"
 #include "build/ZexBuilder.hpp"
 #include "build/ZexCommandResult.hpp"
+#include "build/built_file.hpp"
 #include "build/command_markers.hpp"
 #include "build/response_file.hpp"
 #include "cmd/messages/ZexConfigPerTVM.hpp"
@@ -15,6 +18,9 @@ namespace {
 
 /// Printed by a compile of a block-diagram function that includes `tzwtypes` ahead of `zimstruc`.
 constexpr char16_t headerOrderMark[] = u"tzwtypesbeforezimstrucdetected";
+
+/// Part of the name of every API version source.
+constexpr char16_t versionSourceMark[] = u"_zexapi_version.";
 
 }  // namespace
 
@@ -55,8 +61,31 @@ void ZexBuilder::executeCommand() {
                                 result.errorText.find(headerOrderMark) != ustring::npos;
   if (wrongHeaderOrder) {
     retryHeaderOrder();
-  } else {
-    raiseCommandFailure(current_.command, result);
+    return;
+  }
+  raiseCommandFailure(current_.command, result);
+  if (!args_->zexCheck) return;
+  const bool compilesVersion =
+      current_.kind == ZexCommandKind::Compile && current_.command.find(versionSourceMark) != ustring::npos;
+  const bool linksVersion = current_.kind == ZexCommandKind::Link && !current_.output.empty();
+  if (compilesVersion) {
+    versionCompile_ = current_;
+  } else if (linksVersion && !versionCompile_.command.empty()) {
+    checkBuiltFile();
+  }
+}
+
+void ZexBuilder::checkBuiltFile() {
+  const std::optional<ustring> found = inspectBuiltFile(current_.output, args_->verbose);
+  if (!found) return;
+
+  const ustring flag = versionFlagFor(versionCompile_.command, *found);
+  logMessage(msg::RecompileVer(flag), true);
+  versionCompile_.command += u" " + flag;
+  services::io::uout output;
+  // The new product is not inspected again.
+  for (const ZexBuildCommand* command : {&versionCompile_, &current_}) {
+    raiseCommandFailure(command->command, runBuildCommand(output, *command, args_->tempDir));
   }
 }
 

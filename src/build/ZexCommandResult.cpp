@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "build/deprecated_names.hpp"
 #include "build/response_file.hpp"
 #include "cmd/messages/ZexConfigPerTVM.hpp"
 #include "cmd/messages/raise.hpp"
@@ -34,6 +35,7 @@ ZexCommandResult runBuildCommand(services::io::uout& output, const ZexBuildComma
 
 void raiseCommandFailure(const ustring& commandText, const ZexCommandResult& result) {
   if (result.succeeded) return;
+  raiseDeprecatedName(result);
   if (!result.errorText.empty()) raiseTyped(msg::Error(result.errorText));
   const ustring program = commandText.substr(0, commandText.find(u' '));
   raiseTyped(msg::ZexErrorCode(program, std::to_string(result.exitCode)));

@@ -20,8 +20,8 @@ struct ZexCommandResult {
 ZexCommandResult runBuildCommand(services::io::uout& output, const ZexBuildCommand& record,
                                  const ustring& tempDir);
 
-/// Returns only if the command succeeded. Raises "TESSEL:zex:Error" with the tool's words or, where there are
-/// none, "TESSEL:zex:ZexErrorCode".
+/// Returns only if the command succeeded. Raises the message of a deprecated interface name in the tool's words,
+/// "TESSEL:zex:Error" with those words or, where there are none, "TESSEL:zex:ZexErrorCode".
 void raiseCommandFailure(const ustring& commandText, const ZexCommandResult& result);
 
 }  // namespace zex_cmd

@@ -35,7 +35,8 @@ ZexEnvironmentGuard::~ZexEnvironmentGuard() {
 void ZexEnvironmentGuard::apply(const ZexOpt& option, const ustring& key) {
   const std::string name = fl::i18n::to_string(shortName(key));
   const ustring former = fl::i18n::getenv(name);
-  former_[name] = former;
+  // A document may name a variable twice; what is restored is the value of the first time.
+  former_.emplace(name, former);
   const ustring value = joinedEnvironmentValue(option.requiredValue(key), former);
   logMessage(msg::SetEnv(name, value), true);
   if (value.size() >= longValue) emitWarning(utPrintfIsHot() ? msg::LongEnv_link(name) : msg::LongEnv(name));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 #include "build/ZexBuildCommand.hpp"
 
 namespace zex_cmd {

@@ -49,8 +49,7 @@ void Zex::run(const std::vector<ustring>& arguments) {
 void Zex::build() {
   std::string language;
   if (!args_->optionsFile.empty()) {
-    const ustring told = compilers_->getSelectedOpt()->attribute(u"LANGUAGE");
-    language = fl::i18n::codecvt_ustring_to_string()(fl::i18n::lcctype::transform(told, fl::i18n::to_upper));
+    language = fl::i18n::codecvt_ustring_to_string()(compilers_->getSelectedOpt()->upperLanguage());
   }
   args_->addApiVersionSource(language);
   ZexBuilder(args_, compilers_);

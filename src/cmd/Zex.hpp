@@ -16,6 +16,11 @@ class ZexCompilers;
 /// Routes each command to help, the Ada builder, the compiler setup or a build.
 class Zex : public ZexCmdI {
  public:
+  Zex() = default;
+  /// The catalogue points at the record of its own object, so copies would reach into each other.
+  Zex(const Zex&) = delete;
+  Zex& operator=(const Zex&) = delete;
+
   void run(const std::vector<ustring>& arguments) override;
   std::vector<CompilerRecord> queryCompilers(const std::string& language, const std::string& kind,
                                              const std::string& architecture) override;
@@ -27,7 +32,7 @@ class Zex : public ZexCmdI {
 
   boost::shared_ptr<ZexArgs> args_;            ///< record of the latest command; empty until the first
   boost::shared_ptr<ZexCompilers> compilers_;  ///< of the latest command that got past parsing; points to args_
-  std::string queryKind_;                      ///< kind of a running compiler query; empty at all other times
+  std::string queryKind_;  ///< kind of a compiler query while it runs, and after one that failed
 };
 
 }  // namespace zex_cmd

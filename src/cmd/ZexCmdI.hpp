@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "cmd/visibility.hpp"
+#include "cmd/messages/visibility.hpp"
 #include "fl/ustring.hpp"
 
 namespace zex_cmd {
@@ -21,9 +21,11 @@ class ZEXCMD_API ZexCmdI {
   ZexCmdI& operator=(const ZexCmdI&) = default;
 
   /// Runs one command. `arguments` is what a user typed behind the tool's own name, one entry an argument. Returns
-  /// when the command has ended well. A failure leaves as `foundation::core::except::Exception<Tag,
-  /// std::exception, void>` with the tag of its identifier; catch `foundation::core::except::IMsgIDException` for
-  /// any of them.
+  /// when the command has ended well. A failure leaves as
+  /// `foundation::core::except::Exception<Tag, std::exception, void>` with the tag of its identifier, and an error
+  /// of the host's own functions as `Korvane::TException::HostError`; catch
+  /// `foundation::core::except::IMsgIDException` for any of them. A file system failure outside what the command
+  /// names, such as an unusable temporary folder, passes as `fl::filesystem::FsysExceptionBase`.
   virtual void run(const std::vector<fl::ustring>& arguments) = 0;
 
   /// Describes compilers without printing or writing anything. `language` is "c", "c++", "cpp", "fortran" or "any"

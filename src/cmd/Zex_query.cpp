@@ -1,6 +1,7 @@
 #include <algorithm>
-#include <cctype>
+#include <cstddef>
 
+#include "args/letter_case.hpp"
 #include "cmd/Zex.hpp"
 #include "cmd/messages/raise.hpp"
 #include "compilers/ZexCompilers.hpp"
@@ -17,16 +18,10 @@ constexpr const char* kindWords[] = {"selected", "installed", "supported", "defa
 /// A PRIORITY that begins with this character or a higher one is never the default.
 constexpr char16_t priorityCeiling = 0x7a;
 
-std::string transformed(std::string text, int (*letter)(int)) {
-  std::transform(text.begin(), text.end(), text.begin(),
-                 [letter](unsigned char character) { return static_cast<char>(letter(character)); });
-  return text;
-}
-
 /// The word in lower case, if the list has it.
 template <std::size_t Count>
 std::string lowerWordOf(const char* const (&words)[Count], const std::string& word) {
-  std::string lower = transformed(word, std::tolower);
+  std::string lower = lowered(word);
   if (std::find(std::begin(words), std::end(words), lower) == std::end(words)) {
     raiseTyped(msg::UnknownSwitch(word));
   }
@@ -50,7 +45,7 @@ std::vector<CompilerRecord> Zex::queryCompilers(const std::string& language, con
   const boost::shared_ptr<ZexCompilers> former = compilers_;
   queryKind_ = lowerKind;
   // No guard: after a failure the kind stays, and the next setup command on this object still sees it. Settled so.
-  static_cast<ZexCmdI*>(this)->run({u"-setup", fl::i18n::to_ustring(transformed(word, std::toupper)),
+  static_cast<ZexCmdI*>(this)->run({u"-setup", fl::i18n::to_ustring(uppered(word)),
                                     u"-" + fl::i18n::to_ustring(architecture), u"-called_from_tessel"});
   queryKind_.clear();
   // An architecture word such as "help" sends the inner command past the catalogue; an older one is no answer.
@@ -64,8 +59,9 @@ std::vector<CompilerRecord> Zex::recordsOf(const std::string& kind) const {
   char16_t lowest = priorityCeiling;
   for (const auto& [path, opt] : compilers_->cachedOpts()) {
     if (kind == "default") {
-      if (priorityOf(*opt) >= lowest) continue;
-      lowest = priorityOf(*opt);
+      const char16_t priority = priorityOf(*opt);
+      if (priority >= lowest) continue;
+      lowest = priority;
       best = opt.get();
     } else if (kind == "supported" || (kind == "selected" && opt->selected) ||
                (kind == "installed" && opt->installed)) {

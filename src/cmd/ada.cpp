@@ -1,6 +1,8 @@
 #include "cmd/ada.hpp"
 
 #include <algorithm>
+#include <optional>
+#include <vector>
 
 #include "cmd/messages/raise.hpp"
 #include "fl/i18n/strings.hpp"
@@ -66,9 +68,11 @@ void runAdaRoute(const std::vector<ustring>& arguments) {
   zxArray* failure = callBuilder(arguments);
   if (failure == nullptr) return;
 
+  HostValues owned;
+  owned.add(failure);
   zxArray* messageName = zxCreateString("message");
+  owned.add(messageName);
   const ustring text = fieldOf(failure, messageName);
-  zxDestroyArray(messageName);
   // The second name is deliberately left to the host, unlike the first.
   const ustring identifier = fieldOf(failure, zxCreateString("identifier"));
   if (!text.empty() && !identifier.empty()) throwHostError(identifier, text);

@@ -23,8 +23,9 @@ ustring helpFile() {
 }  // namespace
 
 void printHelp() {
-  const ustring path = helpFile();
+  ustring path;
   try {
+    path = helpFile();
     if (!fl::filesystem::exists(path)) {
       services::io::uout() << u"The ZEX help file " << path << u" not exists.\n";
       return;

@@ -4,6 +4,7 @@
 #include "args/ZexArgs.hpp"
 #include "cmd/messages/raise.hpp"
 #include "compilers/ZexCompilers.hpp"
+#include "compilers/selected_name.hpp"
 #include "fl/filesystem/directory_iterator.hpp"
 #include "fl/filesystem/operations.hpp"
 #include "fl/filesystem/path_names.hpp"
@@ -30,23 +31,16 @@ ZexCompilers::ZexCompilers(const boost::shared_ptr<ZexArgs>* args)
 
 std::vector<ustring> ZexCompilers::acceptedNames(const std::string& language,
                                                  const std::string& architecture) const {
-  const auto nameFor = [&](const std::string& prefix) {
-    return fl::i18n::to_ustring(prefix + "_" + language + "_" + architecture + ".xml");
-  };
+  const ustring upperLanguage = fl::i18n::to_ustring(language);
   const std::string& client = args().client;
-  std::vector<ustring> names{nameFor(client.empty() ? "zex" : client)};
-  if (!client.empty()) names.push_back(nameFor(client));  // the same name again; harmless and settled
-  if (client == "ENGINE") names.push_back(nameFor("zex"));
+  std::vector<ustring> names{selectedName(client, upperLanguage, architecture)};
+  if (!client.empty()) names.push_back(names.front());  // the same name again; harmless and settled
+  if (client == "ENGINE") names.push_back(selectedName({}, upperLanguage, architecture));
   return names;
 }
 
 bool ZexCompilers::servesClient(const ZexOpt& opt) const {
-  if (args().client.empty()) return true;
-  const ustring client = fl::i18n::to_ustring(args().client);
-  const std::vector<ustring> served = opt.childPaths(u"config.client");
-  return std::any_of(served.begin(), served.end(), [&](const ustring& path) {
-    return lcctype::transform(shortName(path), fl::i18n::to_upper) == client;
-  });
+  return args().client.empty() || opt.clientElement(fl::i18n::to_ustring(args().client)).has_value();
 }
 
 boost::shared_ptr<ZexOpt> ZexCompilers::readOpt(const ustring& path, const std::string& language,
@@ -69,11 +63,10 @@ ZexOptList ZexCompilers::scanDirectory(const ustring& directory, const std::stri
       if (!names.empty() && std::find(names.begin(), names.end(), entry.file_name()) == names.end()) continue;
 
       const ustring path = entry.full_pathname();
-      boost::shared_ptr<ZexOpt> opt;
       // A document that the command has seen is left out on purpose: a second scan yields only what is new.
-      if (useCache && isCachedOpt(path, opt)) continue;
+      if (useCache && optCache_.contains(path)) continue;
 
-      opt = readOpt(path, language, shortNameFilter);
+      const boost::shared_ptr<ZexOpt> opt = readOpt(path, language, shortNameFilter);
       const bool passedFilters = !opt->attribute(u"ZEXOPT").empty();
       if (!passedFilters || !servesClient(*opt)) continue;
 

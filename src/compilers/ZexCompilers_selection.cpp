@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <optional>
 
 #include "args/ZexArgs.hpp"
 #include "cmd/messages/ZexConfigPerTVM.hpp"

@@ -5,6 +5,7 @@
 #include "cmd/messages/warnings.hpp"
 #include "compilers/ZexCompilers.hpp"
 #include "compilers/opt_lists.hpp"
+#include "compilers/selected_name.hpp"
 #include "fl/filesystem/operations.hpp"
 #include "fl/filesystem/path_names.hpp"
 #include "fl/i18n/strings.hpp"
@@ -16,23 +17,12 @@ namespace zex_cmd {
 namespace fs = fl::filesystem;
 using fl::i18n::lcctype;
 
-namespace {
-
-ustring upperLanguage(const ZexOpt& opt) {
-  return lcctype::transform(opt.attribute(u"LANGUAGE"), fl::i18n::to_upper);
-}
-
-}  // namespace
-
 bool ZexCompilers::needsUpgrade(const ZexOpt& opt) const {
+  if (!args().optionsFile.empty()) return false;
   const ustring path = opt.attribute(u"ZEXOPT");
-  const ustring folder = fs::detail::make_native_form(fs::detail::remove_filename(path));
   const ustring name = fs::detail::make_native_form(fs::detail::extract_filename(path));
   // The name alone counts: a document of the current folder is treated as its twin in the preferences folder.
-  const bool inPreferences = existsInFolder(name, preferencesFolder());
-  if (folder == fs::get_current_path() && !inPreferences) return false;
-  if (!args().optionsFile.empty()) return false;
-  return inPreferences && !opt.currentRelease;
+  return existsInFolder(name, preferencesFolder()) && !opt.currentRelease;
 }
 
 boost::shared_ptr<ZexOpt> ZexCompilers::upgradeOpt(const boost::shared_ptr<ZexOpt>& opt) {
@@ -54,7 +44,7 @@ bool ZexCompilers::keepsDocument(const ZexOpt& opt) const {
 boost::shared_ptr<ZexOpt> ZexCompilers::findReplacementOpt(const boost::shared_ptr<ZexOpt>& opt) {
   if (keepsDocument(*opt)) return opt;
 
-  const std::string language = fl::i18n::to_string(upperLanguage(*opt));
+  const std::string language = fl::i18n::to_string(opt->upperLanguage());
   const ZexOptList catalogue = findCatalogueOpts(language, {}, false);
   boost::shared_ptr<ZexOpt> source = findOptByField(catalogue, u"SHORTNAME", opt->attribute(u"SHORTNAME"));
   if (!source) {
@@ -77,9 +67,7 @@ bool ZexCompilers::isUnsupportedCompiler(const ZexOpt& opt) const {
 }
 
 ustring ZexCompilers::selectedFileName(const ZexOpt& opt) const {
-  const ustring prefix = args().client.empty() ? ustring(u"zex") : fl::i18n::to_ustring(args().client);
-  return fs::upath_constant::PATHNAME_SEPARATOR + prefix + u"_" + upperLanguage(opt) + u"_" +
-         fl::i18n::to_ustring(args().arch) + u".xml";
+  return fs::upath_constant::PATHNAME_SEPARATOR + selectedName(args().client, opt.upperLanguage(), args().arch);
 }
 
 void ZexCompilers::writeSelectedFile(ZexOpt& opt) const {

@@ -98,10 +98,9 @@ boost::shared_ptr<ZexOpt> ZexSetup::writtenDocument(const boost::shared_ptr<ZexO
   if (compilers_->needsRewrite(*opt)) return compilers_->upgradeOpt(opt);
   if (args_->optionsFile.empty()) return opt;
 
-  const ustring language = lcctype::transform(opt->attribute(u"LANGUAGE"), fl::i18n::to_upper);
   // Read afresh: the document in hand holds the expanded values of this command.
   boost::shared_ptr<ZexOpt> fresh =
-      compilers_->readOpt(opt->attribute(u"ZEXOPT"), fl::i18n::to_string(language), {});
+      compilers_->readOpt(opt->attribute(u"ZEXOPT"), fl::i18n::to_string(opt->upperLanguage()), {});
   fresh->stampRelease();
   fresh->currentRelease = true;
   compilers_->writeSelectedFile(*fresh);

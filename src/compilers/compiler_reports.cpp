@@ -31,7 +31,7 @@ ustring clientOrZex(const ZexArgs& args) {
 void printConfigured(const ZexOpt& chosen, const ZexArgs& args) {
   const ustring client = clientOrZex(args);
   const ustring name = chosen.attribute(u"NAME");
-  const ustring language = fl::i18n::lcctype::transform(chosen.attribute(u"LANGUAGE"), fl::i18n::to_upper);
+  const ustring language = chosen.upperLanguage();
   printMessage(utPrintfIsHot() ? msg::ConfiguredToUse_bold(client, name, language)
                                : msg::ConfiguredToUse(client, name, language));
   if (!args.client.empty()) return;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "compilers/ZexCompilers.hpp"
 
 namespace zex_cmd {

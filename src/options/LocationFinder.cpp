@@ -13,7 +13,7 @@ namespace zex_cmd {
 namespace {
 
 void addDiagnostic(const OptionTree::Element& element) {
-  const auto text = element.get_optional<ustring>(OptionTree::Element::path_type(u"<xmlattr>.diagnostic", u'.'));
+  const std::optional<ustring> text = attributeOf(element, u"diagnostic");
   if (!text || text->empty()) return;
   ZexConfigPerTVM::current().locationTrace += fl::i18n::to_string(*text) + "\n";
 }

@@ -1,3 +1,5 @@
+#include <cstdint>
+
 #include "cmd/messages/ZexConfigPerTVM.hpp"
 #include "cmd/messages/verbose_lines.hpp"
 #include "fl/filesystem/operations.hpp"
@@ -16,12 +18,6 @@ namespace {
 
 using Element = OptionTree::Element;
 namespace fs = fl::filesystem;
-
-std::optional<ustring> attributeOf(const Element& element, const ustring& name) {
-  const auto found = element.get_optional<ustring>(Element::path_type(u"<xmlattr>." + name, u'.'));
-  if (!found) return std::nullopt;
-  return *found;
-}
 
 /// The folder that "$$" stands for in a path: links are followed, and a file stands for its folder.
 ustring foundFolder(const ustring& value) {
@@ -63,7 +59,11 @@ bool answerWithValue(const ustring& value) {
 }
 
 /// For files and folders alike: deliberate, a folder satisfies `fileExists` and a file `dirExists`.
-bool pathExists(const ustring& path, ustring& value) {
+std::optional<bool> pathTest(MessageRecord (*looking)(const ustring&), const Element& element, ustring& value) {
+  const std::optional<ustring> name = attributeOf(element, u"name");
+  if (!name) return std::nullopt;
+  const ustring path = testedPath(*name, value);
+  logMessage(looking(path), false);
   if (!fs::exists(path)) return answerNo();
   value = fs::detail::make_native_form(path);
   logMessage(msg::Yes(), true);
@@ -85,19 +85,11 @@ std::optional<bool> registryValueExists(RegistryRoot root, const char* rootName,
 }  // namespace
 
 LocationFinder::Verdict LocationFinder::fileExists(const Element& element, ustring& value) const {
-  const std::optional<ustring> name = attributeOf(element, u"name");
-  if (!name) return std::nullopt;
-  const ustring path = testedPath(*name, value);
-  logMessage(msg::LookingFile(path), false);
-  return pathExists(path, value);
+  return pathTest(&msg::LookingFile, element, value);
 }
 
 LocationFinder::Verdict LocationFinder::dirExists(const Element& element, ustring& value) const {
-  const std::optional<ustring> name = attributeOf(element, u"name");
-  if (!name) return std::nullopt;
-  const ustring path = testedPath(*name, value);
-  logMessage(msg::LookingFolder(path), false);
-  return pathExists(path, value);
+  return pathTest(&msg::LookingFolder, element, value);
 }
 
 LocationFinder::Verdict LocationFinder::envVarExists(const Element& element, ustring& value) const {

@@ -7,6 +7,9 @@
 #include <string>
 #include <utility>
 
+#include "fl/filesystem/exceptions.hpp"
+#include "fl/filesystem/file_status.hpp"
+#include "fl/filesystem/operations.hpp"
 #include "fl/filesystem/streams.hpp"
 #include "fl/i18n/strings.hpp"
 #include "platform/tokens.hpp"
@@ -15,6 +18,7 @@ namespace zex_cmd {
 
 namespace {
 
+namespace fs = fl::filesystem;
 namespace pt = boost::property_tree;
 
 constexpr char encoding[] = "utf-8";
@@ -33,8 +37,25 @@ void demandGood(const std::ostream& stream) {
   if (!stream) throw std::ios_base::failure("write failed");
 }
 
+void writeAll(std::ostream& stream, const OptionTree::Element& root) {
+  pt::ptree narrow;
+  convertInto(narrow, root, fl::i18n::to_string);
+  pt::write_xml(stream, narrow, pt::xml_writer_settings<std::string>('\t', 1, encoding));
+  stream.flush();
+  demandGood(stream);
+}
+
+/// A truncated document would stop every later build. That it cannot be removed matters less than why it was left.
+void removeTruncated(const ustring& path) {
+  try {
+    if (fs::is_regular(fs::status(path))) fs::remove(path);
+  } catch (const fs::FsysExceptionBase&) {
+    return;
+  }
+}
+
 bool isLeftOutOfListings(const ustring& key, const ustring& path) {
-  return key == u"<xmlcomment>" || path == u"config.locationFinder" || path == u"config.client";
+  return key == commentKey || path == u"config.locationFinder" || path == u"config.client";
 }
 
 void escapeQuotes(OptionTree::Element& attributes) {
@@ -47,6 +68,17 @@ bool isXmlPart(const ustring& key) {
   return key.find(u"<xml") != ustring::npos;
 }
 
+ustring attributePrefix(const ustring& elementPath) {
+  return elementPath + u"." + attributesKey + u".";
+}
+
+std::optional<ustring> attributeOf(const OptionTree::Element& element, const ustring& name) {
+  const OptionTree::Element::path_type path(ustring(attributesKey) + u"." + name, u'.');
+  const auto found = element.get_optional<ustring>(path);
+  if (!found) return std::nullopt;
+  return *found;
+}
+
 const OptionTree::Element* OptionTree::find(const ustring& path) const {
   return root.get_child_optional(Element::path_type(path, u'.')).get_ptr();
 }
@@ -56,7 +88,7 @@ OptionTree::Element* OptionTree::find(const ustring& path) {
 }
 
 void OptionTree::readXml(const ustring& path) {
-  fl::filesystem::basic_ifstream stream(path);
+  fs::basic_ifstream stream(path);
   pt::ptree narrow;
   pt::read_xml(stream, narrow, pt::xml_parser::trim_whitespace);
   convertInto(root, narrow, fl::i18n::to_ustring);
@@ -64,13 +96,15 @@ void OptionTree::readXml(const ustring& path) {
 }
 
 void OptionTree::writeXml(const ustring& path) const {
-  fl::filesystem::basic_ofstream stream(path);
+  fs::basic_ofstream stream(path);
   demandGood(stream);
-  pt::ptree narrow;
-  convertInto(narrow, root, fl::i18n::to_string);
-  pt::write_xml(stream, narrow, pt::xml_writer_settings<std::string>('\t', 1, encoding));
-  stream.flush();
-  demandGood(stream);
+  try {
+    writeAll(stream, root);
+  } catch (...) {
+    stream.close();
+    removeTruncated(path);
+    throw;
+  }
   stream.close();
 }
 
@@ -86,7 +120,7 @@ void OptionTree::stripForListing() {
         child = element->erase(child);
         continue;
       }
-      if (key == u"<xmlattr>") {
+      if (key == attributesKey) {
         escapeQuotes(child->second);
       } else {
         open.emplace_back(childPath, &child->second);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <boost/property_tree/ptree.hpp>
+#include <optional>
 
 #include "fl/ustring.hpp"
 
@@ -8,8 +9,11 @@ namespace zex_cmd {
 
 using fl::ustring;
 
-/// The tree of one option document. Attributes stand below a child "<xmlattr>" of their element, comments below
-/// "<xmlcomment>".
+/// The child of an element that holds its attributes, and the one that holds a comment.
+inline constexpr char16_t attributesKey[] = u"<xmlattr>";
+inline constexpr char16_t commentKey[] = u"<xmlcomment>";
+
+/// The tree of one option document.
 class OptionTree {
  public:
   using Element = boost::property_tree::basic_ptree<ustring, ustring>;
@@ -22,6 +26,7 @@ class OptionTree {
 
   /// Throws whatever the file or its text gives cause for.
   void readXml(const ustring& path);
+  /// A write that fails half-way leaves no file.
   void writeXml(const ustring& path) const;
 
   /// Takes away what a list of compilers does not show, and escapes double quotes in attributes ahead of the
@@ -32,5 +37,10 @@ class OptionTree {
 
 /// Whether a key stands for a part of the XML itself (attributes, a comment, text) and not for a child element.
 bool isXmlPart(const ustring& key);
+
+/// Tree path of an element's attributes, to be completed by a name.
+ustring attributePrefix(const ustring& elementPath);
+
+std::optional<ustring> attributeOf(const OptionTree::Element& element, const ustring& name);
 
 }  // namespace zex_cmd

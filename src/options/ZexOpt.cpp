@@ -15,9 +15,10 @@ namespace {
 
 using fl::i18n::lcctype;
 
-const ustring rootAttributes = u"config.<xmlattr>.";
-const ustring variables = u"config.vars.<xmlattr>.";
-const ustring releasePath = u"config.TESSEL.<xmlattr>.release";
+const ustring rootAttributes = attributePrefix(u"config");
+const ustring variables = attributePrefix(u"config.vars");
+const ustring details = attributePrefix(u"config.Details");
+const ustring releasePath = attributePrefix(u"config.TESSEL") + u"release";
 
 constexpr std::array<std::pair<std::u16string_view, std::u16string_view>, 8> attributeKeys = {{
     {u"NAME", u"Name"},
@@ -32,7 +33,7 @@ constexpr std::array<std::pair<std::u16string_view, std::u16string_view>, 8> att
 
 /// The filter is taken as it stands: only the document's own word is folded.
 bool isOfLanguage(const ZexOpt& opt, const std::string& language) {
-  return lcctype::transform(opt.attribute(u"LANGUAGE"), fl::i18n::to_upper) == fl::i18n::to_ustring(language);
+  return opt.upperLanguage() == fl::i18n::to_ustring(language);
 }
 
 bool isNamed(const ZexOpt& opt, const ustring& shortNameFilter) {
@@ -47,9 +48,12 @@ ustring shortName(const ustring& treePath) {
   return dot == ustring::npos ? treePath : treePath.substr(dot + 1);
 }
 
-ZexOpt::ZexOpt(const ustring& path, const std::string& language, const ustring& shortNameFilter,
-               bool calledFromHost)
-    : calledFromHost_(calledFromHost), tree_(std::make_unique<OptionTree>()) {
+ustring detailPath(const ustring& name) {
+  return details + name;
+}
+
+ZexOpt::ZexOpt(const ustring& path, const std::string& language, const ustring& shortNameFilter, bool fromHost)
+    : calledFromHost(fromHost), tree_(std::make_unique<OptionTree>()) {
   try {
     tree_->readXml(path);
   } catch (...) {
@@ -69,6 +73,10 @@ ustring ZexOpt::attribute(const ustring& key) const {
                                 [&](const auto& candidate) { return candidate.first == key; });
   if (row == attributeKeys.end()) return {};
   return value(rootAttributes + ustring(row->second)).value_or(ustring());
+}
+
+ustring ZexOpt::upperLanguage() const {
+  return lcctype::transform(attribute(u"LANGUAGE"), fl::i18n::to_upper);
 }
 
 std::optional<ustring> ZexOpt::value(const ustring& path) const {
@@ -95,9 +103,19 @@ void ZexOpt::setVariable(const ustring& name, const ustring& text) {
   setValue(variables + name, text);
 }
 
+std::optional<ustring> ZexOpt::detail(const ustring& name) const {
+  return value(detailPath(name));
+}
+
+std::optional<ustring> ZexOpt::clientElement(const ustring& client) const {
+  for (const ustring& path : childPaths(u"config.client")) {
+    if (lcctype::transform(shortName(path), fl::i18n::to_upper) == client) return path;
+  }
+  return std::nullopt;
+}
+
 void ZexOpt::removeValue(const ustring& path) {
-  const std::size_t dot = path.rfind(u'.');
-  OptionTree::Element* parent = dot == ustring::npos ? &tree_->root : tree_->find(path.substr(0, dot));
+  OptionTree::Element* parent = tree_->find(path.substr(0, path.rfind(u'.')));
   if (parent != nullptr) parent->erase(shortName(path));
 }
 

@@ -20,26 +20,36 @@ inline constexpr char releaseTag[] = "R2018a";
 /// What follows the last "." of a tree path.
 ustring shortName(const ustring& treePath);
 
+/// Tree path of an attribute of "config.Details".
+ustring detailPath(const ustring& name);
+
 /// One compiler option document: an XML tree, the single store of every value that a build reads. A tree path is
 /// dot-separated; an attribute's path is its element's path, ".<xmlattr>." and its name.
 class ZexOpt {
  public:
-  /// Reads the document and, if both filters let it pass, runs its location finder. An empty filter lets all pass;
-  /// `language` must be upper case. A rejected document has an empty "ZEXOPT". Raises "TESSEL:zex:InvalidXML".
-  ZexOpt(const ustring& path, const std::string& language, const ustring& shortNameFilter, bool calledFromHost);
-  ~ZexOpt();
-  ZexOpt(const ZexOpt&) = delete;
-  ZexOpt& operator=(const ZexOpt&) = delete;
+  const bool calledFromHost;  ///< handed on with the commands that the location finder runs
 
+ private:
+  std::unique_ptr<OptionTree> tree_;
+
+ public:
   bool selected = false;        ///< the chosen document of its list
   bool installed = false;       ///< every location variable was found on this machine
   bool currentRelease = false;  ///< stamped with this release
 
-  bool calledFromHost() const { return calledFromHost_; }
+  /// Reads the document and, if both filters let it pass, runs its location finder. An empty filter lets all pass;
+  /// `language` must be upper case. A rejected document has an empty "ZEXOPT". Raises "TESSEL:zex:InvalidXML".
+  ZexOpt(const ustring& path, const std::string& language, const ustring& shortNameFilter, bool fromHost);
+  ~ZexOpt();
+  ZexOpt(const ZexOpt&) = delete;
+  ZexOpt& operator=(const ZexOpt&) = delete;
 
   /// Attribute of the root by its upper-case key: NAME, SHORTNAME, MANUFACTURER, VERSION, LANGUAGE, LOCATION,
   /// PRIORITY or ZEXOPT. Empty for any other key and for a missing attribute.
   ustring attribute(const ustring& key) const;
+
+  /// LANGUAGE, upper-cased by the locale.
+  ustring upperLanguage() const;
 
   std::optional<ustring> value(const ustring& path) const;
   void setValue(const ustring& path, const ustring& text);
@@ -50,6 +60,14 @@ class ZexOpt {
   std::optional<ustring> variable(const ustring& name) const;
   void setVariable(const ustring& name, const ustring& text);
 
+  /// An attribute of "config.Details".
+  std::optional<ustring> detail(const ustring& name) const;
+
+  /// Path of the first element of "config.client" whose upper-cased name equals the client's, which is taken as it
+  /// stands.
+  std::optional<ustring> clientElement(const ustring& client) const;
+
+  /// The path must hold a dot. Does nothing where its element is absent.
   void removeValue(const ustring& path);
   void setZexoptPath(const ustring& path);
 
@@ -85,10 +103,6 @@ class ZexOpt {
 
   /// Batch lines that put the document's PATH, INCLUDE, LIB and LIBPATH ahead of those of a command shell.
   ustring environmentScript() const;
-
- private:
-  bool calledFromHost_;
-  std::unique_ptr<OptionTree> tree_;
 };
 
 /// The name that an existing selected-options file moves to: "_backup" between stem and extension.

@@ -1,3 +1,6 @@
+#include <initializer_list>
+
+#include "options/OptionTree.hpp"
 #include "options/ZexOpt.hpp"
 
 namespace zex_cmd {
@@ -10,7 +13,7 @@ struct KeySource {
 };
 
 /// Always present, empty where the document does not say.
-constexpr KeySource attributeKeys[] = {
+constexpr KeySource alwaysPresentKeys[] = {
     {u"Name", u"NAME"},         {u"Manufacturer", u"MANUFACTURER"},
     {u"Language", u"LANGUAGE"}, {u"Version", u"VERSION"},
     {u"Location", u"LOCATION"}, {u"ShortName", u"SHORTNAME"},
@@ -42,7 +45,7 @@ constexpr KeySource scriptLines[] = {
 };
 
 std::optional<ustring> environmentValue(const ZexOpt& opt, const ustring& name) {
-  return opt.value(u"config.env.<xmlattr>." + name);
+  return opt.value(attributePrefix(u"config.env") + name);
 }
 
 /// A search path that ends in what the command shell has, with the document's own texts ahead of it, last name
@@ -71,11 +74,9 @@ std::map<ustring, ustring> ZexOpt::detailsMap() const {
   const auto putIfPresent = [&map](const ustring& key, const std::optional<ustring>& text) {
     if (text) map[key] = *text;
   };
-  for (const auto& [key, source] : attributeKeys) map[key] = attribute(source);
+  for (const auto& [key, source] : alwaysPresentKeys) map[key] = attribute(source);
   if (const auto text = variable(u"SETENV")) map[u"SetEnv"] = *text + u"\n" + environmentScript();
-  for (const auto& [key, source] : detailKeys) {
-    putIfPresent(key, value(ustring(u"config.Details.<xmlattr>.") + source));
-  }
+  for (const auto& [key, source] : detailKeys) putIfPresent(key, detail(source));
   map[u"SystemPath"] = searchPath(*this, u"%PATH%", {u"PATH"});
   map[u"LibraryPath"] = searchPath(*this, u"%LIB%", {u"LIBPATH", u"LIB"});
   map[u"IncludePath"] = searchPath(*this, u"%INCLUDE%", {u"INCLUDE"});

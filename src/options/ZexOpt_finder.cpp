@@ -10,7 +10,7 @@ namespace {
 /// Stops at the first variable that is not found; those before it stay set. No condition at all counts as not
 /// found.
 bool findAll(ZexOpt& opt, const OptionTree::Element& conditions) {
-  const LocationFinder finder(opt.calledFromHost());
+  const LocationFinder finder(opt.calledFromHost);
   bool found = false;
   for (const auto& condition : conditions) {
     if (isXmlPart(condition.first)) continue;

@@ -11,10 +11,8 @@ namespace {
 
 using Element = OptionTree::Element;
 
-const ustring attributesKey = u"<xmlattr>";
-
 void appendAttributePaths(const Element& attributes, const ustring& elementPath, std::vector<ustring>& result) {
-  const ustring start = elementPath + u"." + attributesKey + u".";
+  const ustring start = attributePrefix(elementPath);
   for (const auto& attribute : attributes) result.push_back(start + attribute.first);
 }
 
@@ -55,7 +53,7 @@ std::vector<ustring> ZexOpt::allValuePaths(const std::vector<ustring>& excluded)
     for (const auto& [key, child] : *element) {
       if (key == attributesKey) {
         appendAttributePaths(child, path, result);
-      } else if (key != u"<xmlcomment>") {
+      } else if (key != commentKey) {
         open.emplace_back(path.empty() ? key : path + u"." + key, &child);
       }
     }

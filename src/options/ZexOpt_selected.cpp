@@ -30,7 +30,7 @@ void ZexOpt::writeSelected(const ustring& path) {
     if (fl::filesystem::exists(path)) moveToBackup(path);
   }
   try {
-    removeValue(u"config.<xmlattr>.Zexopt");
+    removeValue(attributePrefix(u"config") + u"Zexopt");
     tree_->writeXml(path);
     setZexoptPath(path);
   } catch (const boost::property_tree::xml_parser_error& failure) {

@@ -22,15 +22,11 @@ constexpr std::array<Architecture, 5> architectures{{
 
 }  // namespace
 
-std::string architectureOfTag(const std::string& extensionTag) {
+std::string architectureName() {
   for (const Architecture& row : architectures) {
-    if (row.tag == extensionTag) return std::string(row.name);
+    if (row.tag == ZEX_PLATFORM_TAG) return std::string(row.name);
   }
   return "unknown";
-}
-
-std::string architectureName() {
-  return architectureOfTag(ZEX_PLATFORM_TAG);
 }
 
 }  // namespace zex_cmd

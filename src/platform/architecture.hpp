@@ -4,10 +4,7 @@
 
 namespace zex_cmd {
 
-/// Architecture for an extension tag such as "zexa64"; "unknown" for a tag that is not in the table.
-std::string architectureOfTag(const std::string& extensionTag);
-
-/// Architecture that this library was built for, such as "glnxa64".
+/// Architecture that this library was built for, such as "glnxa64"; "unknown" for a platform outside the table.
 std::string architectureName();
 
 }  // namespace zex_cmd

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "fl/ustring.hpp"
 
 namespace zex_cmd {

@@ -28,6 +28,10 @@ void removeMatches(ustring& text, const boost::wregex& expression) {
 
 }  // namespace
 
+void requireUsablePath(const ustring& path) {
+  fullPath(path);
+}
+
 ustring nativeFolderForm(const ustring& path) {
   ustring native = fl::filesystem::detail::make_native_form(path);
   // The root alone becomes empty by this; kept so.

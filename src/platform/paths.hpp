@@ -11,6 +11,9 @@ using fl::ustring;
 /// cannot carry through a shell.
 ustring fullPath(const ustring& path);
 
+/// Raises what `fullPath` would, for a path that stays as it was told.
+void requireUsablePath(const ustring& path);
+
 /// Native form less one trailing separator; an empty path stays empty.
 ustring nativeFolderForm(const ustring& path);
 

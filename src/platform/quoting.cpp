@@ -27,8 +27,7 @@ ustring quoteAlways(const ustring& text) {
   return isQuoted(text) ? text : between(text, u'"');
 }
 
-ustring quoteWhenNeeded(const ustring& text) {
-  if (isQuoted(text)) return text;
+bool holdsOutsideQuotes(const ustring& text, fl::ustring_view characters) {
   const std::size_t lastQuote = text.rfind(u'"');
   bool insideQuotes = false;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -36,11 +35,14 @@ ustring quoteWhenNeeded(const ustring& text) {
       insideQuotes = !insideQuotes;
       continue;
     }
-    const bool isSpecial = fl::ustring_view(u" ()&").find(text[i]) != fl::ustring_view::npos;
     const bool neverClosed = lastQuote == ustring::npos || lastQuote < i;
-    if (isSpecial && (!insideQuotes || neverClosed)) return between(text, u'"');
+    if (characters.find(text[i]) != fl::ustring_view::npos && (!insideQuotes || neverClosed)) return true;
   }
-  return text;
+  return false;
+}
+
+ustring quoteWhenNeeded(const ustring& text) {
+  return !isQuoted(text) && holdsOutsideQuotes(text, u" ()&") ? between(text, u'"') : text;
 }
 
 ustring quoteForPosix(const ustring& text) {

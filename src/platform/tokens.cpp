@@ -9,10 +9,8 @@
 
 namespace zex_cmd {
 
-const ustring blankCharacters = u"\t\n\v\f\r ";
-
 ustring trimmed(const ustring& text) {
-  return fl::i18n::trim(text, blankCharacters);
+  return fl::i18n::trim(text, u"\t\n\v\f\r ");
 }
 
 std::vector<ustring> rejoinQuoted(const std::vector<ustring>& tokens) {

@@ -8,10 +8,7 @@ namespace zex_cmd {
 
 using fl::ustring;
 
-/// Tab, line feed, vertical tab, form feed, carriage return and blank.
-extern const ustring blankCharacters;
-
-/// The text without `blankCharacters` at both ends.
+/// The text without tab, line feed, vertical tab, form feed, carriage return and blank at both ends.
 ustring trimmed(const ustring& text);
 
 /// Joins pieces of a quoted text again: a piece with an odd count of double quotes opens or closes a run, whose

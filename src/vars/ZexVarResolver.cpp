@@ -1,6 +1,7 @@
 #include "vars/ZexVarResolver.hpp"
 
 #include <algorithm>
+#include <optional>
 
 #include "args/ZexArgs.hpp"
 #include "cmd/messages/raise.hpp"
@@ -10,19 +11,6 @@
 #include "platform/tokens.hpp"
 
 namespace zex_cmd {
-
-namespace {
-
-/// Only the document's side is folded: a client name in lower case matches nothing.
-std::optional<ustring> clientElement(const ZexOpt& opt, const std::string& client) {
-  const ustring wanted = fl::i18n::to_ustring(client);
-  for (const ustring& path : opt.childPaths(u"config.client")) {
-    if (fl::i18n::lcctype::transform(shortName(path), fl::i18n::to_upper) == wanted) return path;
-  }
-  return std::nullopt;
-}
-
-}  // namespace
 
 ZexVarResolver::ZexVarResolver(const boost::shared_ptr<ZexArgs>& args,
                                const boost::shared_ptr<ZexCompilers>& compilers)
@@ -49,7 +37,8 @@ void ZexVarResolver::resolve(const boost::shared_ptr<ZexOpt>& opt) {
 }
 
 void ZexVarResolver::applyClientOverrides(ZexOpt& opt) const {
-  const std::optional<ustring> element = clientElement(opt, args_->client);
+  // Only the document's side is folded: a client name in lower case matches nothing.
+  const std::optional<ustring> element = opt.clientElement(fl::i18n::to_ustring(args_->client));
   if (!element) raiseTyped(msg::UnknownClient(args_->client));
   for (const ustring& path : opt.attributePaths(*element)) {
     ustring value = opt.requiredValue(path);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <boost/shared_ptr.hpp>
-#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -47,12 +46,5 @@ class ZexVarResolver {
   boost::shared_ptr<ZexCompilers> compilers_;
   std::vector<ArgumentVariableRow> table_;
 };
-
-/// Indices of value paths in the order in which they can be expanded: each after all that it refers to. Raises
-/// "TESSEL:zex:CircRef" and "TESSEL:zex:ErrXMLAttr".
-std::vector<std::size_t> orderVariables(const ZexOpt& opt, const std::vector<ustring>& paths);
-
-/// Replaces references by the document's variables; `self`, and names that nothing defines, stay.
-void expandReferences(const ZexOpt& opt, ustring& text, const ustring& self);
 
 }  // namespace zex_cmd

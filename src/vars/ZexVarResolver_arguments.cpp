@@ -11,10 +11,6 @@ namespace zex_cmd {
 
 namespace {
 
-ustring detailPath(const std::string& attribute) {
-  return u"config.Details.<xmlattr>." + fl::i18n::to_ustring(attribute);
-}
-
 /// True if `env` has an attribute of that name. It takes the text then, and no variable is set.
 bool applyToEnvironmentBlock(ZexOpt& opt, const ustring& name, ustring text) {
   bool matched = false;
@@ -30,7 +26,7 @@ bool applyToEnvironmentBlock(ZexOpt& opt, const ustring& name, ustring text) {
 /// Text of the variable that a "Details" attribute names. An empty attribute ends in the string library's
 /// position error: deliberate, a document has to name a variable.
 ustring detailVariableValue(const ZexOpt& opt, const std::string& attribute) {
-  const ustring path = detailPath(attribute);
+  const ustring path = detailPath(fl::i18n::to_ustring(attribute));
   const ustring reference = opt.requiredValue(path);
   if (!reference.empty() && !reference.starts_with(u'$')) {
     raiseTyped(msg::ErrXMLAttr(path, opt.attribute(u"ZEXOPT")));
@@ -49,13 +45,14 @@ ustring flagsForMode(const ZexOpt& opt, const ZexArgs& args, const std::string& 
 
 ustring ZexVarResolver::formatArgument(const ZexOpt& opt, const ustring& part,
                                        const std::string& formatterAttribute) const {
-  if (formatterAttribute.empty()) return quoteWhenNeeded(part);
-  return applyFormatters(part, opt.requiredValue(detailPath(formatterAttribute)));
+  // The plain rule would yield a command that the shell breaks.
+  if (formatterAttribute.empty()) return quoteInCommand(part);
+  return applyFormatters(part, opt.requiredValue(detailPath(fl::i18n::to_ustring(formatterAttribute))));
 }
 
 void ZexVarResolver::applyArgumentVariables(ZexOpt& opt) const {
   for (const ArgumentVariableRow& row : table_) {
-    const ustring reference = opt.requiredValue(detailPath(row.targetAttribute));
+    const ustring reference = opt.requiredValue(detailPath(fl::i18n::to_ustring(row.targetAttribute)));
     if (reference.size() < 2) continue;
     // The first character is a dollar sign by custom, and not checked.
     const ustring target = reference.substr(1);

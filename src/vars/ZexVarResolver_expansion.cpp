@@ -2,7 +2,8 @@
 #include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
 #include "vars/ZexVarResolver.hpp"
-#include "vars/references.hpp"
+#include "vars/expansion.hpp"
+#include "vars/ordering.hpp"
 
 namespace zex_cmd {
 

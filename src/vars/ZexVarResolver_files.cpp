@@ -23,11 +23,12 @@ struct FileVariable {
   ustring (*quote)(const ustring&);
 };
 
+/// What commands name is quoted for the shell too: the plain rule would yield a command that the shell breaks.
 constexpr std::array<FileVariable, 6> fileVariables = {{
-    {u"DEF", Place::TempFolder, u".def", quoteWhenNeeded},
+    {u"DEF", Place::TempFolder, u".def", quoteInCommand},
     {u"EXP", Place::OutputFolder, u".exp", quoteAlways},
     {u"LIB", Place::OutputFolder, u".lib", quoteAlways},
-    {u"EXE", Place::OutputFolder, u"$LDEXT", quoteWhenNeeded},
+    {u"EXE", Place::OutputFolder, u"$LDEXT", quoteInCommand},
     {u"ILK", Place::OutputFolder, u".ilk", quoteAlways},
     {u"MANIFEST", Place::OutputFolder, u"$LDEXT.manifest", quoteAlways},
 }};
@@ -59,7 +60,7 @@ void setObjectVariables(ZexOpt& opt, const ZexArgs& args, const ustring& objectF
   ustring listed;
   ustring spaced;
   for (const ustring& source : args.sources) {
-    const ustring object = quoteWhenNeeded(objectFolder + stemOf(source) + u"$OBJEXT");
+    const ustring object = quoteInCommand(objectFolder + stemOf(source) + u"$OBJEXT");
     if (!listed.empty()) listed += u";";
     listed += object;
     spaced += object + u" ";

@@ -1,14 +1,17 @@
+#include "vars/ordering.hpp"
+
 #include <algorithm>
 #include <boost/graph/adjacency_list.hpp>
 #include <boost/graph/depth_first_search.hpp>
 #include <boost/graph/topological_sort.hpp>
+#include <iterator>
 #include <map>
+#include <optional>
 #include <utility>
 
 #include "cmd/messages/raise.hpp"
 #include "options/ZexOpt.hpp"
-#include "vars/ZexVarResolver.hpp"
-#include "vars/referenceNames.hpp"
+#include "vars/references.hpp"
 
 namespace zex_cmd {
 
@@ -45,7 +48,7 @@ std::vector<Edge> dependencies(const ZexOpt& opt, const std::vector<ustring>& pa
   std::vector<Edge> edges;
   for (std::size_t index = 0; index < paths.size(); ++index) {
     const ustring value = opt.requiredValue(paths[index]);
-    for (const ReferenceRange& reference : collectReferences(value, 0)) {
+    for (const ReferenceRange& reference : collectReferences(value, plainOnly)) {
       if (const auto target = referredTo(byName, referenceName(value, reference), index)) {
         edges.emplace_back(index, *target);
       }

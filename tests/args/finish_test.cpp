@@ -63,6 +63,14 @@ TEST_F(Finish, OutputFolderIsMadeAndTried) {
   EXPECT_THAT(scratch.names("three/four"), testing::ElementsAre());
 }
 
+TEST_F(Finish, ADeletedCurrentFolderIsNamedAsOne) {
+  std::filesystem::create_directory("gone");
+  std::filesystem::current_path("gone");
+  std::filesystem::remove("../gone");
+  EXPECT_EQ(parsed({u"/a.o"}), "TESSEL:zex:SrcNotFound(\".\", \".\")");
+  EXPECT_EQ(parsed({u"/a.o", u"-output", u"b"}), "TESSEL:zex:SrcNotFound(\"b\", \"b\")");
+}
+
 TEST_F(Finish, VerboseFlagsChangeOnlyAfterTheWalk) {
   parsed({u"a.c", u"-v"});
   parsed({u"missing.c"});

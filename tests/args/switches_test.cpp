@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include "args/CommandLine.hpp"
 
 namespace zex_test {
@@ -60,6 +62,15 @@ TEST_F(Switches, FailuresNameTheirCause) {
   std::filesystem::remove("../gone");
   EXPECT_EQ(walked({u"-outdir", u"new"}), "TESSEL:zex:SrcNotFound(\"new\", \"new\")");
   EXPECT_EQ(walked({u"-setup:word"}), "TESSEL:zex:SrcNotFound(\"word\", \"word\")");
+}
+
+TEST(ZexCheckDeathTest, IsOffWhereTheVariableIsSetEvenIfEmpty) {
+  // Read once in a process: each case needs one of its own, from the start.
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  for (const char* value : {"", "0", static_cast<const char*>(nullptr)}) {
+    const ScopedVariable variable("TESSEL_ZEXCHECK_OFF", value);
+    EXPECT_EXIT(_exit(zex_cmd::ZexArgs().zexCheck ? 1 : 0), testing::ExitedWithCode(value == nullptr ? 1 : 0), "");
+  }
 }
 
 TEST_F(Switches, TesselDropsWhatFollows) {

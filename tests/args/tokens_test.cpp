@@ -27,9 +27,11 @@ TEST_F(Tokens, Assignments) {
        "CMDLINE999_0=<strip x>; CMDLINE999_1=<b>"},
       {{u"TEMP=\"t/é d\""}, "tempDir=t/é d; TEMP=<t/é d>"},
       {{u"TEMP=t", u"TEMP=\"\""}, "tempDir=t; TEMP=<>"},
+      {{u"TEMP=$x"}, "TESSEL:zex:Error(\"Invalid path $x\")"},
   };
   for (const Case& row : cases) EXPECT_EQ(walked(row.line), row.expected);
-  EXPECT_TRUE(scratch.has("t/é d"));
+  EXPECT_THAT(scratch.names(), testing::ElementsAre("t"));
+  EXPECT_THAT(scratch.names("t"), testing::ElementsAre("é d"));
   scratch.write("file", "");
   EXPECT_EQ(walked({u"TEMP=file/below"}), "TESSEL:zex:NotADirectory(\"file/below\")");
 }
@@ -37,6 +39,7 @@ TEST_F(Tokens, Assignments) {
 TEST_F(Tokens, ResponseFiles) {
   const std::pair<const char*, const char*> files[] = {
       {"switches", "-g  \n\n   \n -DX \"-Ia b\" @inner\n"},
+      {"crlf", "-g\r\n\r\n\"-DX=1\r 2\"\r\n"},
       {"inner", "X=1 -output \"one  two\""},
       {"broken", "-g \"-Ic\nd\""},
       {"value", "-output"},
@@ -49,6 +52,7 @@ TEST_F(Tokens, ResponseFiles) {
   for (const auto& [name, content] : files) scratch.write(name, content);
   const Case cases[] = {
       {{u"@switches", u"X=$X;2"}, "DEFINES= X; INCLUDE= -I\"a b\"; output=one two; X=<1;2>; flags=debug"},
+      {{u"@crlf"}, "DEFINES= \"X=1\r 2\"; flags=debug"},
       {{u"@\"empty\"", u"@both.o"}, "flags=debug"},
       {{u"@only.o"}, "objects=\"@only.o\""},
       {{u"@broken"}, "TESSEL:zex:Error(\"Invalid path \\\"-Ic\")"},

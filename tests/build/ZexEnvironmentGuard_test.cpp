@@ -20,7 +20,8 @@ TEST(EnvironmentGuard, PutsTheDocumentsTextFirstAndRestores) {
   const ScopedVariable set("ZEX_TEST_SET", "old");
   const ScopedVariable unset("ZEX_TEST_UNSET", nullptr);
   Document document;
-  document.env = "ZEX_TEST_SET=\"new\" ZEX_TEST_UNSET=\"alone\"";
+  document.env = "ZEX_TEST_SET=\"new\" ZEX_TEST_UNSET=\"alone\" ZEX_TEST_TWICE=\"1\" ZEX_TEST_TWICE=\"2\"";
+  const ScopedVariable twice("ZEX_TEST_TWICE", "0");
   tree.scratch.write("d.xml", document.xml());
   const ZexOpt option(tree.scratch.path("d.xml"), "", u"", false);
   {
@@ -29,6 +30,7 @@ TEST(EnvironmentGuard, PutsTheDocumentsTextFirstAndRestores) {
     EXPECT_STREQ(std::getenv("ZEX_TEST_UNSET"), "alone");  // no empty entry, which would mean the current folder
   }
   EXPECT_STREQ(std::getenv("ZEX_TEST_SET"), "old");
+  EXPECT_STREQ(std::getenv("ZEX_TEST_TWICE"), "0");
   EXPECT_STREQ(std::getenv("ZEX_TEST_UNSET"), "");  // set to the empty text, not removed
 }
 

@@ -158,12 +158,37 @@ TEST_F(Setup, FailuresNameWhatIsMissing) {
   EXPECT_TRUE(preferences().empty());
 }
 
-TEST_F(Setup, AFailedWriteLeavesTheFormerChoiceUnderItsBackupName) {
+TEST_F(Setup, ATakenBackupNameLeavesTheFormerChoice) {
   tree.offer("a.xml", compiler("1", "A"));
   tree.scratch.write("prefs/zex_C_glnxa64.xml", compiler("1", "A").xml());
   std::filesystem::create_directories(tree.scratch.folder() / "prefs/zex_C_glnxa64_backup.xml/in the way");
-  EXPECT_NE(setup({u"-setup", u"C"}), "no error");
-  EXPECT_TRUE(tree.scratch.has("prefs/zex_C_glnxa64.xml")) << "the backup name was taken, so nothing may move";
+  const std::string prefs = (tree.scratch.folder() / "prefs").string();
+  EXPECT_EQ(setup({u"-setup", u"C"}), "TESSEL:zex:SrcNotFound(\"" + prefs + "\", \"" + prefs + "\")");
+  EXPECT_EQ(tree.scratch.read("prefs/zex_C_glnxa64.xml"), compiler("1", "A").xml());
+}
+
+TEST_F(Setup, HintsWithLinksRepeatTheClient) {
+  tree.offer("a.xml", compiler("1", "A"));
+  tree.host.hot = true;
+  EXPECT_EQ(setup({u"-setup", u"-client", u"engine"}), "no error");
+  const std::string client = "\" -client ENGINE\"";
+  EXPECT_TRUE(tree.host.output.ends_with("\nTESSEL:zex:NoLangSelected_link(" + client + ", " + client + ", " +
+                                         client + ", " + client + ")\n"))
+      << tree.host.output;
+}
+
+TEST_F(Setup, ACallerGetsTheListOfResolvedDocuments) {
+  Document document = compiler("1", "A");
+  document.vars = "WHERE=\"$ARCH\"";
+  tree.offer("a.xml", document);
+  args = boost::make_shared<ZexArgs>();
+  args->parseArguments({u"-setup", u"C", u"-v"});
+  args->xmlFile = u"list.xml";
+  compilers = boost::make_shared<ZexCompilers>(&args);
+  ZexSetup(args, compilers, "");
+  EXPECT_EQ(args->xmlFile, u"list.xml");
+  EXPECT_NE(tree.scratch.read("list.xml").find("WHERE=\"glnxa64\""), std::string::npos);
+  EXPECT_NE(tree.host.output.find("list.xml is output.\n"), std::string::npos);
 }
 
 TEST_F(Setup, AQueryPrintsAndWritesNothing) {

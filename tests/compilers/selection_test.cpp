@@ -127,6 +127,35 @@ TEST_F(Selection, MergingPutsTheSelectedDocumentInThePlaceOfItsTwin) {
   }
 }
 
+TEST_F(Selection, MergingMindsOnlyWhatIsInstalled) {
+  struct Case {
+    const char* what;
+    Document listed;
+    Document chosen;
+    const char* kind;
+    const char* names;  ///< of the merged list, "*" before a selected one
+    std::size_t cached;
+  };
+  const Case cases[] = {
+      {"no twin", compiler("1", "A"), compiler("2", "B"), "", "1 *2 ", 2},
+      {"selected one is gone", compiler("1", "A"), compiler("1", "A", false), "", "*1 ", 2},
+      {"query, listed twin is gone", compiler("1", "A", false), compiler("1", "A"), "installed", "1 ", 2},
+  };
+  for (const Case& row : cases) {
+    const InstalledTree fresh;
+    fresh.offer("a.xml", row.listed);
+    fresh.scratch.write("prefs/zex_C_glnxa64.xml", row.chosen.xml());
+    ZexCompilers compilers(&args);
+    const ZexOptList catalogue = compilers.findCatalogueOpts("C", u"", true);
+    std::string names;
+    for (const auto& opt : compilers.mergeOptLists(catalogue, compilers.findSelectedOpts("C", u""), row.kind)) {
+      names += (opt->selected ? "*" : "") + fl::i18n::to_string(opt->attribute(u"NAME")) + " ";
+    }
+    EXPECT_EQ(names, row.names) << row.what;
+    EXPECT_EQ(compilers.cachedOpts().size(), row.cached) << row.what;
+  }
+}
+
 class Upgrade : public Selection {
  protected:
   boost::shared_ptr<ZexOpt> old(const Document& document, const std::string& file = "prefs/zex_C_glnxa64.xml") {

@@ -12,7 +12,8 @@ class LocationFinderTest : public DocumentTest {
  protected:
   LocationFinderTest() {
     host.install = scratch.path("root");
-    for (const char* file : {"tools/cc", "tools/ld", "root/marker", "real/cc", "real/ld"}) scratch.write(file, "");
+    for (const char* file : {"tools/cc", "tools/ld", "root/marker", "real/cc", "real/ld", "~", "$$/x"})
+      scratch.write(file, "");
     std::filesystem::create_symlink("real/cc", "link");
     std::filesystem::create_symlink("nowhere", "broken");
   }
@@ -40,13 +41,13 @@ TEST_F(LocationFinderTest, AConditionTreeGivesAVariableOrItsDiagnostics) {
       {"<dirExists name='tools/cc'/>", "tools/cc", ""},
       {"<fileExists name='$TESSELROOT/marker'/>", folder + "/root/marker", ""},
       {"<dirExists name='~/tools'/>", folder + "/tools", ""},
-      {"<dirExists name='./~'/>", "-", ""},
+      {"<dirExists name='./~'/>", "./~", ""},
       {"<fileExists name='./tools/../real//cc'/>", "./real/cc", ""},
       // "$$" is the folder found so far; a file stands for its folder, and links are followed.
       {"<envVarExists name='ZEX_TEST_PLACE'/><fileExists name='$$/cc'/><fileExists name='$$/ld'/>", "tools/ld",
        ""},
       {"<fileExists name='link'/><fileExists name='$$/ld'/>", folder + "/real/ld", ""},
-      {"<fileExists name='$$/tools'/>", "-", ""},
+      {"<fileExists name='$$/x'/>", "$$/x", ""},
       {"<fileExists name='tools/cc'/><cmdReturns name='echo in:$$'/>", "in:tools", ""},
       {"<envVarExists name='ZEX_TEST_ABSENT' diagnostic='Set it.'/>", "-", "Set it.\n"},
       {"<cmdReturns name='echo; echo \"  a//b \"'/>", "a/b", ""},
@@ -90,6 +91,15 @@ TEST_F(LocationFinderTest, TheFirstMissingVariableEndsTheSearch) {
             "TESSEL:zex:LookingFile(\"no\")TESSEL:zex:No\n"
             "TESSEL:zex:NotInstalledCompiler(\"n\")\n");
   EXPECT_FALSE(load("<config/>").installed);
+}
+
+TEST_F(LocationFinderTest, CommandsKnowWhoCalled) {
+  scratch.write("doc.xml", "<config><locationFinder><V><cmdReturns name='echo x'/></V></locationFinder></config>");
+  for (const bool fromHost : {true, false}) {
+    host.shellFlags.clear();
+    const ZexOpt opt(scratch.path("doc.xml"), "", u"", fromHost);
+    EXPECT_THAT(host.shellFlags, testing::ElementsAre(fromHost));
+  }
 }
 
 TEST_F(LocationFinderTest, ABrokenLinkAsFoundValueFliesOn) {

@@ -1,5 +1,9 @@
+#include <sys/resource.h>
+
+#include <csignal>
 #include <filesystem>
 
+#include "fl/filesystem/exceptions.hpp"
 #include "fl/i18n/strings.hpp"
 #include "options/DocumentTest.hpp"
 
@@ -78,6 +82,52 @@ TEST_F(SelectedOptionsTest, AFailedWriteIsReported) {
   opt.setVariable(u"LONG", ustring(100'000, u'x'));
   EXPECT_THAT(zex_test::failureOf([&] { opt.writeSelected(u"/dev/full"); }),
               StartsWith("TESSEL:zex:XMLWriteFailedWithMsg(\"/dev/full\", "));
+}
+
+/// No file grows beyond the limit while the object lives, as on a disk that is full.
+class TightDisk {
+ public:
+  explicit TightDisk(rlim_t limit) : formerHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &former_);
+    const rlimit tight{limit, former_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &tight);
+  }
+  ~TightDisk() {
+    setrlimit(RLIMIT_FSIZE, &former_);
+    std::signal(SIGXFSZ, formerHandler_);
+  }
+  TightDisk(const TightDisk&) = delete;
+  TightDisk& operator=(const TightDisk&) = delete;
+
+ private:
+  rlimit former_{};
+  void (*formerHandler_)(int);
+};
+
+TEST_F(SelectedOptionsTest, AHalfWrittenFileDoesNotStay) {
+  ZexOpt opt = load(document);
+  const std::string path = (scratch.folder() / "prefs/saved.xml").string();
+  // A short text fails when the stream is flushed, a long one while it is written.
+  for (const char* identifier : {"XMLWriteFailed", "XMLWriteFailedWithMsg"}) {
+    scratch.write("prefs/saved.xml", identifier);
+    std::string failure;
+    {
+      const TightDisk disk(100);
+      failure = zex_test::failureOf([&] { opt.writeSelected(scratch.path("prefs/saved.xml")); });
+    }
+    EXPECT_THAT(failure, StartsWith(std::string("TESSEL:zex:") + identifier + "(\"" + path + "\""));
+    EXPECT_EQ(scratch.names("prefs"), std::vector<std::string>{"saved_backup.xml"});
+    EXPECT_EQ(scratch.read("prefs/saved_backup.xml"), identifier);
+    opt.setVariable(u"LONG", ustring(100'000, u'x'));
+  }
+}
+
+TEST_F(SelectedOptionsTest, AFileThatCannotMoveStaysAsItIs) {
+  ZexOpt opt = load(document);
+  scratch.write("prefs/saved.xml", "former");
+  scratch.write("prefs/saved_backup.xml/in the way", "");
+  EXPECT_THROW(opt.writeSelected(scratch.path("prefs/saved.xml")), fl::filesystem::FsysExceptionBase);
+  EXPECT_EQ(scratch.read("prefs/saved.xml"), "former");
 }
 
 TEST_F(SelectedOptionsTest, TheListingLeavesOutWhatOnlyTheDriverReads) {

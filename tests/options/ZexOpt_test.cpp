@@ -69,6 +69,11 @@ TEST_F(ZexOptTest, ValuesAreMadeReplacedAndRemoved) {
   EXPECT_EQ(opt.attribute(u"NAME"), u" gcc <é> ");
   for (const char16_t* key : {u"VERSION", u"OTHER", u"Name"}) EXPECT_EQ(opt.attribute(key), u"");
 
+  opt.setValue(detailPath(u"DebugFlags"), u"$D");
+  EXPECT_EQ(opt.value(u"config.Details.<xmlattr>.DebugFlags"), u"$D");
+  EXPECT_EQ(opt.detail(u"DebugFlags"), u"$D");
+  EXPECT_EQ(opt.detail(u"LinkerFlags"), std::nullopt);
+
   opt.setVariable(u"OPT", u"-O2");
   opt.setVariable(u"NEW", u"n");
   EXPECT_EQ(opt.variable(u"OPT"), u"-O2");

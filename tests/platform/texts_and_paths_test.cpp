@@ -53,6 +53,18 @@ TEST(Quoting, WhenNeededLooksOutsideClosedQuotesOnly) {
   expectChanges(cases, quoteWhenNeeded);
 }
 
+TEST(Quoting, InACommandTakesInAllThatAShellActsUpon) {
+  for (const char16_t unit : ustring(u" ()&'|<>*?[]{}#~!\\\t")) {
+    const ustring text = ustring(u"/a") + unit + u"é";
+    EXPECT_EQ(to_string(quoteInCommand(text)), to_string(u'"' + text + u'"'));
+  }
+  const Change cases[] = {
+      {u"/a/-+=,.:@%^_é", u"/a/-+=,.:@%^_é"}, {u"\"a*b\"", u"\"a*b\""},     {u"X=\"a*b\"c", u"X=\"a*b\"c"},
+      {u"X=\"a*b", u"\"X=\"a*b\""},           {u"-l'c d'", u"\"-l'c d'\""}, {u"$HOME;`x`", u"$HOME;`x`"},
+  };
+  expectChanges(cases, quoteInCommand);
+}
+
 TEST(Quoting, ForPosix) {
   const Change cases[] = {{u"a&b", u"a&b"}, {u"a=b", u"'a=b'"}, {u"\"a b\"", u"\"a b\""}, {u"'a \"", u"''a \"'"}};
   expectChanges(cases, quoteForPosix);

@@ -75,8 +75,13 @@ TEST_F(ZexVarResolverTest, FilesFollowSourcesAndObjects) {
   resolveWith("");
   expect({"EXENAME=o", "SRCROOT=sub/o", "OBJ=/tmp/t/v.o"});
 
-  args->sources.clear();
+  args->sources = {u"/s/it's.c"};
   args->objects.clear();
+  args->apiVersionSourceAdded = false;
+  resolveWith("");
+  expect({"OBJ=\"/tmp/t/it's.o\"", "DEF=\"/tmp/t/it's.def\"", "EXE=\"it's.zexa64\""});
+
+  args->sources.clear();
   resolveWith("");
   expect({"SRC=", "OBJ=", "OBJS=", "EXENAME="});
 }
@@ -102,10 +107,10 @@ TEST_F(ZexVarResolverTest, ArgumentsGoInFrontOfTheDocumentsText) {
   args->defines = u" ONE MSG=\"a b\" -UTWO É\U0001F600";
   args->libraryPaths = u" \"/l 1\"";
   args->libraries = u" \"m\"";
-  args->exLibraries = u" \"x.a\" \"y z.a\"";
+  args->exLibraries = u" \"x.a\" \"y z.a\" \"it's.a\"";
   resolveWith("INCLUDES='-I.' USERLIBS='-lc'");
   expect({"INCLUDES=-I\"/a\" -I\"/b c\"  -I.", "DEFINES=-DONE  -DMSG=\"a b\"  -UTWO  -DÉ\U0001F600   ",
-          "USERLIBS=x.a \"y z.a\"  -lm --as=m   \"-L/l 1\"   -lc"});
+          "USERLIBS=x.a \"y z.a\" \"it's.a\"  -lm --as=m   \"-L/l 1\"   -lc"});
 
   // Without arguments the target needs neither a formatter nor a variable.
   *args = ZexArgs();
@@ -135,14 +140,15 @@ TEST_F(ZexVarResolverTest, ClientsOverrideVariables) {
   const auto resolveFor = [&](const char* client, bool setup) {
     args->client = client;
     args->setup = setup;
-    resolveWith("CFLAGS='-O'", "<client><engine CFLAGS='$CFLAGS -main' EXTRA='$NONE'/></client>");
+    resolveWith("CFLAGS='-O $CFLAGS'", "<client><engine CFLAGS='$CFLAGS -main' EXTRA='$NONE'/></client>");
   };
   resolveFor("ENGINE", false);
-  expect({"CFLAGS=-O -main", "EXTRA=$NONE"});
+  expect({"CFLAGS=-O $CFLAGS -main", "EXTRA=$NONE"});
   resolveFor("engine", false);
   EXPECT_EQ(failure, "TESSEL:zex:UnknownClient(\"engine\")");
   resolveFor("ENGINE", true);
-  expect({"CFLAGS=-O", "EXTRA=-"});
+  // Client elements have no part in the expansion, where this one would close a circle.
+  expect({"CFLAGS=-O $CFLAGS", "EXTRA=-"});
 }
 
 TEST_F(ZexVarResolverTest, DebugWinsOverOptimization) {

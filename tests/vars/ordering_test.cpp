@@ -1,10 +1,11 @@
+#include "vars/ordering.hpp"
+
 #include <gmock/gmock.h>
 
 #include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
 #include "support/RecordingServices.hpp"
 #include "support/Scratch.hpp"
-#include "vars/ZexVarResolver.hpp"
 
 namespace zex_cmd {
 namespace {

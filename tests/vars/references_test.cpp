@@ -19,13 +19,5 @@ TEST(References, AreFoundByTheirPositions) {
   EXPECT_THAT(collectReferences(escaped, 3), ElementsAre());
 }
 
-TEST(References, GiveOneTextForEachSource) {
-  EXPECT_THAT(expandPerSource(u"-c $SRC -o$OBJ $FLAGS $$SRC", u"\"a.c\";\"b.c\"", u"a.o;b.o"),
-              ElementsAre(u"-c \"a.c\" -oa.o $FLAGS $$SRC", u"-c \"b.c\" -ob.o $FLAGS $$SRC"));
-  EXPECT_THAT(expandPerSource(u"link $OBJS $SRCROOT", u"a;b", u"c;d"), ElementsAre(u"link $OBJS $SRCROOT"));
-  EXPECT_THAT(expandPerSource(u"[$SRC$OBJ]", u"", u"ignored"), ElementsAre(u"[]"));
-  EXPECT_THAT(expandPerSource(u"$SRC>$OBJ", u"a;b", u"c"), ElementsAre(u"a>c", u"b>"));
-}
-
 }  // namespace
 }  // namespace zex_cmd

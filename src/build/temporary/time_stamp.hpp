@@ -4,8 +4,8 @@
 
 namespace zex_cmd {
 
-/// A count that goes up with every call of this process: the processor's time stamp counter or, where that cannot
-/// be read, a monotonic clock.
+/// The processor's time stamp counter or, where that cannot be read, a monotonic clock: fine enough that two calls
+/// in a row are not expected to meet, which nothing guarantees.
 std::uint64_t timeStampCount();
 
 }  // namespace zex_cmd

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "cmd/messages/MessageRecord.hpp"
+#include "cmd/messages/visibility.hpp"
 #include "foundation/core/except/IException.hpp"
 
 namespace foundation::core::except {
@@ -14,7 +15,7 @@ class Exception;
 
 /// The failure of one message identifier; `Tag` is the empty class named after it, as in TESSEL::zex::CircRef.
 template <class Tag>
-class ZEXHOST_API Exception<Tag, std::exception, void> : public IMsgIDException, public std::exception {
+class ZEXCMD_TYPE Exception<Tag, std::exception, void> : public IMsgIDException, public std::exception {
  public:
   explicit Exception(zex_cmd::MessageRecord record) : record_(std::move(record)) {}
   Exception(const Exception&) = default;

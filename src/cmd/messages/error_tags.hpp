@@ -1,59 +1,59 @@
 #pragma once
 
-#include "host/visibility.hpp"
+#include "cmd/messages/visibility.hpp"
 
 /// One empty class for each identifier that can be raised, in a namespace named after its component.
 
 namespace TESSEL::zex {
 
-class ZEXHOST_API UnknownSwitch {};
-class ZEXHOST_API IncompatibleSwitches {};
-class ZEXHOST_API UnknownExt {};
-class ZEXHOST_API UnknownLanguage {};
-class ZEXHOST_API MixLang {};
-class ZEXHOST_API AccessDenied {};
-class ZEXHOST_API ErrOption {};
-class ZEXHOST_API FileCannotOpen {};
-class ZEXHOST_API NotADirectory {};
-class ZEXHOST_API UnknownClient {};
-class ZEXHOST_API SrcNotFound {};
-class ZEXHOST_API ErrorFortranR2018a {};
-class ZEXHOST_API FileSystemException {};
-class ZEXHOST_API Error {};
-class ZEXHOST_API FileNameConversionFailed {};
-class ZEXHOST_API FileNameTooLarge {};
-class ZEXHOST_API OutOfMemory {};
-class ZEXHOST_API ZexDoubleHandle {};
-class ZEXHOST_API Locked {};
-class ZEXHOST_API ZXSeparateComplexNotSupported {};
-class ZEXHOST_API UndocumentedNotSupported {};
-class ZEXHOST_API ZexSetTrapFlagNotSupported {};
-class ZEXHOST_API ZexErrorCode {};
-class ZEXHOST_API ErrXMLAttr {};
-class ZEXHOST_API LibNotFound {};
-class ZEXHOST_API MultipleOrZeroCompiler {};
-class ZEXHOST_API NoCompilerFound {};
-class ZEXHOST_API NoCompilerFound_Win64 {};
-class ZEXHOST_API NoCompilerFound_link {};
-class ZEXHOST_API NoCompilerFound_link_Win64 {};
-class ZEXHOST_API FailSetEnv {};
-class ZEXHOST_API InvalidXML {};
-class ZEXHOST_API XMLWriteFailed {};
-class ZEXHOST_API XMLWriteFailedWithMsg {};
-class ZEXHOST_API NotConfiguredToUse {};
-class ZEXHOST_API CircRef {};
+class ZEXCMD_TYPE UnknownSwitch {};
+class ZEXCMD_TYPE IncompatibleSwitches {};
+class ZEXCMD_TYPE UnknownExt {};
+class ZEXCMD_TYPE UnknownLanguage {};
+class ZEXCMD_TYPE MixLang {};
+class ZEXCMD_TYPE AccessDenied {};
+class ZEXCMD_TYPE ErrOption {};
+class ZEXCMD_TYPE FileCannotOpen {};
+class ZEXCMD_TYPE NotADirectory {};
+class ZEXCMD_TYPE UnknownClient {};
+class ZEXCMD_TYPE SrcNotFound {};
+class ZEXCMD_TYPE ErrorFortranR2018a {};
+class ZEXCMD_TYPE FileSystemException {};
+class ZEXCMD_TYPE Error {};
+class ZEXCMD_TYPE FileNameConversionFailed {};
+class ZEXCMD_TYPE FileNameTooLarge {};
+class ZEXCMD_TYPE OutOfMemory {};
+class ZEXCMD_TYPE ZexDoubleHandle {};
+class ZEXCMD_TYPE Locked {};
+class ZEXCMD_TYPE ZXSeparateComplexNotSupported {};
+class ZEXCMD_TYPE UndocumentedNotSupported {};
+class ZEXCMD_TYPE ZexSetTrapFlagNotSupported {};
+class ZEXCMD_TYPE ZexErrorCode {};
+class ZEXCMD_TYPE ErrXMLAttr {};
+class ZEXCMD_TYPE LibNotFound {};
+class ZEXCMD_TYPE MultipleOrZeroCompiler {};
+class ZEXCMD_TYPE NoCompilerFound {};
+class ZEXCMD_TYPE NoCompilerFound_Win64 {};
+class ZEXCMD_TYPE NoCompilerFound_link {};
+class ZEXCMD_TYPE NoCompilerFound_link_Win64 {};
+class ZEXCMD_TYPE FailSetEnv {};
+class ZEXCMD_TYPE InvalidXML {};
+class ZEXCMD_TYPE XMLWriteFailed {};
+class ZEXCMD_TYPE XMLWriteFailedWithMsg {};
+class ZEXCMD_TYPE NotConfiguredToUse {};
+class ZEXCMD_TYPE CircRef {};
 
 }  // namespace TESSEL::zex
 
 namespace TESSEL::string {
 
-class ZEXHOST_API MissingNotSupported {};
-class ZEXHOST_API MustBeStringScalarOrCharacterVector {};
+class ZEXCMD_TYPE MissingNotSupported {};
+class ZEXCMD_TYPE MustBeStringScalarOrCharacterVector {};
 
 }  // namespace TESSEL::string
 
 namespace TESSEL::legacy_two_part {
 
-class ZEXHOST_API minrhs {};
+class ZEXCMD_TYPE minrhs {};
 
 }  // namespace TESSEL::legacy_two_part

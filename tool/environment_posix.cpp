@@ -1,10 +1,10 @@
-#include "environment.hpp"
-
-#include <stdlib.h>
-
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <system_error>
+
+#include "environment.hpp"
 
 namespace tool {
 
@@ -13,6 +13,11 @@ namespace {
 std::string variable(const char* name) {
   const char* value = std::getenv(name);
   return value == nullptr ? std::string() : value;
+}
+
+void setVariable(const char* name, const std::string& value) {
+  if (setenv(name, value.c_str(), 1) != 0)
+    throw std::system_error(errno, std::generic_category(), std::string("cannot set ") + name);
 }
 
 /// The folder that the library would take, in its own order.
@@ -24,22 +29,22 @@ std::string temporaryFolder() {
   return {};
 }
 
-/// Commands name the folder, unquoted where it holds no blank, so a character that the shell acts upon would
-/// change them.
-bool safeInShell(const std::string& folder) {
-  return folder.find_first_of("$`\"'\\;|<>*?[]{}#~!\n\t") == std::string::npos;
+/// A command names the response file below the folder, and without quotes: a blank would cut the name in two, and
+/// a character that the shell acts upon would change the command.
+bool fitForCommands(const std::string& folder) {
+  return folder.find_first_of(" ()&$`\"'\\;|<>*?[]{}#~!\n\t") == std::string::npos;
 }
 
 }  // namespace
 
 void prepareEnvironment() {
   const std::string temporary = temporaryFolder();
-  if (temporary.empty() || !safeInShell(temporary)) setenv("TMPDIR", P_tmpdir, 1);
+  if (temporary.empty() || !fitForCommands(temporary)) setVariable("TMPDIR", P_tmpdir);
 
   std::string preferences = variable("TESSEL_PREFDIR");
   const std::string former = preferences;
   while (preferences.size() > 1 && preferences.back() == '/') preferences.pop_back();
-  if (preferences != former) setenv("TESSEL_PREFDIR", preferences.c_str(), 1);
+  if (preferences != former) setVariable("TESSEL_PREFDIR", preferences);
 }
 
 }  // namespace tool

@@ -1,0 +1,161 @@
+#include "printed_values.hpp"
+
+#include <algorithm>
+#include <boost/json/src.hpp>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+
+#include "values.hpp"
+
+namespace tool {
+
+namespace {
+
+namespace json = boost::json;
+
+/// The shortest text that reads back as the same number.
+template <class Number>
+std::string written(Number number) {
+  char text[64];
+  const auto end = std::to_chars(std::begin(text), std::end(text), number);
+  return {text, end.ptr};
+}
+
+std::string written(unsigned char truth) {
+  return truth == 0 ? "false" : "true";
+}
+
+std::string written(double number) {
+  if (std::isnan(number)) return "NaN";
+  if (std::isinf(number)) return number < 0 ? "-Inf" : "Inf";
+  return written<double>(number);
+}
+
+std::string written(zxComplex number) {
+  const std::string imaginary = written(number.im);
+  return written(number.re) + (imaginary.front() == '-' ? "" : "+") + imaginary + "i";
+}
+
+template <class Number>
+json::value inJson(Number number) {
+  return number;
+}
+
+json::value inJson(unsigned char truth) {
+  return truth != 0;
+}
+
+json::value inJson(double number) {
+  if (!std::isfinite(number)) return json::string(written(number));
+  return number;
+}
+
+json::value inJson(zxComplex number) {
+  return json::array{inJson(number.re), inJson(number.im)};
+}
+
+/// Calls a function with the elements of an array; not for texts and objects.
+template <class Use>
+void withElements(const zxArray* array, Use use) {
+  const zxKind kind = zxKindOf(array);
+  switch (kind) {
+    case ZX_REAL:
+      return use(zxReadReals(array));
+    case ZX_COMPLEX:
+      return use(zxReadComplexes(array));
+    case ZX_LOGICAL:
+      return use(static_cast<const unsigned char*>(zxReadData(array, kind)));
+    case ZX_INT8:
+      return use(static_cast<const std::int8_t*>(zxReadData(array, kind)));
+    case ZX_INT16:
+      return use(static_cast<const std::int16_t*>(zxReadData(array, kind)));
+    case ZX_INT32:
+      return use(static_cast<const std::int32_t*>(zxReadData(array, kind)));
+    case ZX_INT64:
+      return use(static_cast<const std::int64_t*>(zxReadData(array, kind)));
+    case ZX_UINT8:
+      return use(static_cast<const std::uint8_t*>(zxReadData(array, kind)));
+    case ZX_UINT16:
+      return use(static_cast<const std::uint16_t*>(zxReadData(array, kind)));
+    case ZX_UINT32:
+      return use(static_cast<const std::uint32_t*>(zxReadData(array, kind)));
+    case ZX_UINT64:
+      return use(static_cast<const std::uint64_t*>(zxReadData(array, kind)));
+    case ZX_TEXT:
+    case ZX_OTHER:
+      return;
+  }
+}
+
+using Row = std::vector<std::string>;
+
+std::vector<Row> writtenRows(const zxArray* array) {
+  std::vector<Row> rows(static_cast<std::size_t>(zxRowsOf(array)));
+  const auto count = static_cast<std::size_t>(zxCountOf(array));
+  withElements(array, [&](const auto* elements) {
+    for (std::size_t index = 0; index < count; ++index)
+      rows[index % rows.size()].push_back(written(elements[index]));
+  });
+  return rows;
+}
+
+std::string aligned(const std::vector<Row>& rows) {
+  std::string text;
+  std::vector<std::size_t> widths(rows.empty() ? 0 : rows.front().size());
+  for (const Row& row : rows) {
+    for (std::size_t column = 0; column < row.size(); ++column)
+      widths[column] = std::max(widths[column], row[column].size());
+  }
+  for (const Row& row : rows) {
+    if (row.empty()) continue;
+    text += "  ";
+    for (std::size_t column = 0; column < row.size(); ++column)
+      text += "  " + std::string(widths[column] - row[column].size(), ' ') + row[column];
+    text += "\n";
+  }
+  return text;
+}
+
+json::array rowsInJson(const zxArray* array) {
+  json::array rows(static_cast<std::size_t>(zxRowsOf(array)), json::array());
+  const auto count = static_cast<std::size_t>(zxCountOf(array));
+  withElements(array, [&](const auto* elements) {
+    for (std::size_t index = 0; index < count; ++index)
+      rows[index % rows.size()].as_array().push_back(inJson(elements[index]));
+  });
+  return rows;
+}
+
+}  // namespace
+
+std::string printed(const NamedValues& values) {
+  std::string text;
+  for (const auto& [name, array] : values) {
+    text += name + ": " + nameOf(zxKindOf(array)) + ", " + written(zxRowsOf(array)) + " by " +
+            written(zxColumnsOf(array)) + "\n";
+    text +=
+        zxKindOf(array) == ZX_TEXT ? std::string("    ") + zxReadText(array) + "\n" : aligned(writtenRows(array));
+  }
+  return text;
+}
+
+std::string jsonOf(const NamedValues& values) {
+  json::array list;
+  for (const auto& [name, array] : values) {
+    json::object object;
+    object["name"] = name;
+    object["kind"] = nameOf(zxKindOf(array));
+    object["rows"] = zxRowsOf(array);
+    object["columns"] = zxColumnsOf(array);
+    if (zxKindOf(array) == ZX_TEXT) {
+      object["value"] = zxReadText(array);
+    } else if (zxKindOf(array) != ZX_OTHER) {
+      object["values"] = rowsInJson(array);
+    }
+    list.push_back(std::move(object));
+  }
+  return json::serialize(list) + "\n";
+}
+
+}  // namespace tool

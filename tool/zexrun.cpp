@@ -1,0 +1,112 @@
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+
+#include "fl/i18n/strings.hpp"
+#include "korvane/TException.hpp"
+#include "printed_values.hpp"
+#include "program.hpp"
+#include "standalone/LoadedProducts.hpp"
+#include "values.hpp"
+
+namespace {
+
+constexpr char usage[] = "usage: zexrun PRODUCT [VALUE...] [-nlhs N] [--json]";
+
+constexpr char help[] =
+    "\n\nCalls the extension PRODUCT with the values and prints what it returns.\n\n"
+    "VALUE    a number (3, -2.5e3, 1-2i), true or false, a matrix (\"[1 2; 3 4]\"),\n"
+    "         a text (\"'abc'\"), or one of these as another kind (\"int8([1 2])\")\n"
+    "-nlhs N  ask for N outputs; the default is 0, and a first one is shown if given\n"
+    "--json   print the outputs for programs; what the extension prints goes to\n"
+    "         standard error\n";
+
+struct Request {
+  fl::ustring product;
+  std::vector<tool::Value> inputs;
+  int outputs = 0;
+  bool json = false;
+};
+
+int countOf(const fl::ustring& text) {
+  constexpr int mostOutputs = 1000;
+  const std::string digits = fl::i18n::to_string(text);
+  const bool isCount = !digits.empty() && digits.size() < 5 &&
+                       digits.find_first_not_of("0123456789") == std::string::npos &&
+                       std::stoi(digits) <= mostOutputs;
+  if (!isCount) throw tool::UsageError("'" + digits + "' is no number of outputs");
+  return std::stoi(digits);
+}
+
+Request requestOf(const std::vector<fl::ustring>& arguments) {
+  Request request;
+  for (auto word = arguments.begin(); word != arguments.end(); ++word) {
+    if (*word == u"--json") {
+      request.json = true;
+    } else if (*word == u"-nlhs") {
+      if (++word == arguments.end()) throw tool::UsageError("-nlhs needs a number behind it");
+      request.outputs = countOf(*word);
+    } else if (request.product.empty()) {
+      request.product = *word;
+    } else {
+      request.inputs.push_back(tool::parsedValue(fl::i18n::to_string(*word)));
+    }
+  }
+  if (request.product.empty()) throw tool::UsageError(usage);
+  return request;
+}
+
+/// An extension does not look for a noted interrupt: from here on one ends the program.
+void letInterruptsEndTheProgram() {
+  for (const int signal : {SIGINT, SIGTERM}) {
+    if (std::signal(signal, SIG_DFL) == SIG_IGN) std::signal(signal, SIG_IGN);
+  }
+}
+
+void toStandardError(const char* text, std::size_t length) {
+  std::fwrite(text, 1, length, stderr);
+}
+
+std::vector<tool::Value> called(host::standalone::LoadedProduct& product, const Request& request) {
+  std::vector<const zxArray*> inputs;
+  for (const tool::Value& input : request.inputs) inputs.push_back(input.get());
+  std::vector<zxArray*> places(static_cast<std::size_t>(std::max(request.outputs, 1)));
+  product.call(request.outputs, places.data(), static_cast<int>(inputs.size()), inputs.data());
+  return {places.begin(), places.end()};
+}
+
+tool::NamedValues namedOutputs(const std::vector<tool::Value>& outputs, const Request& request) {
+  tool::NamedValues named;
+  for (std::size_t index = 0; index < outputs.size(); ++index) {
+    const std::string number = std::to_string(index + 1);
+    if (outputs[index]) {
+      named.emplace_back("ans" + number, outputs[index].get());
+    } else if (static_cast<int>(index) < request.outputs) {
+      throw Korvane::TException::HostError(
+          "TESSEL:zexrun:OutputMissing",
+          fl::i18n::to_ustring("The extension gave no output " + number + " of the " +
+                               std::to_string(request.outputs) + " that were asked for."));
+    }
+  }
+  return named;
+}
+
+void runExtension(const std::vector<fl::ustring>& arguments) {
+  if (arguments.size() == 1 && (arguments.front() == u"-help" || arguments.front() == u"-h")) {
+    std::printf("%s%s", usage, help);
+    return;
+  }
+  const Request request = requestOf(arguments);
+  if (request.json) zxSetWriter(toStandardError);
+  letInterruptsEndTheProgram();
+  host::standalone::LoadedProducts products;
+  const std::vector<tool::Value> outputs = called(products.load(request.product), request);
+  const tool::NamedValues named = namedOutputs(outputs, request);
+  std::fputs((request.json ? tool::jsonOf(named) : tool::printed(named)).c_str(), stdout);
+}
+
+}  // namespace
+
+int main(int count, char** values) {
+  return tool::runProgram("zexrun", count, values, runExtension);
+}
