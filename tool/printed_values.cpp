@@ -48,6 +48,11 @@ json::value inJson(unsigned char truth) {
 
 json::value inJson(double number) {
   if (!std::isfinite(number)) return json::string(written(number));
+  // 10 and not 1E1, for those who read along.
+  constexpr double exactIntegers = 9007199254740992;
+  const bool isMinusZero = number == 0 && std::signbit(number);
+  const bool isPlain = std::trunc(number) == number && std::abs(number) < exactIntegers && !isMinusZero;
+  if (isPlain) return static_cast<std::int64_t>(number);
   return number;
 }
 

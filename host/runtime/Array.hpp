@@ -6,7 +6,6 @@
 #include <optional>
 #include <string>
 
-#define ZX_HOST  // no extension: no record, no entry point
 #include "zex.h"
 
 namespace zx {

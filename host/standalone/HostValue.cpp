@@ -15,7 +15,7 @@ zxArray* handedOver(HostValue value) {
   auto owned = std::make_unique<HostValue>(std::move(value));
   zxArray* const array = zxWrapObject(
       owned.get(), [](void* object) { const std::unique_ptr<HostValue> end(static_cast<HostValue*>(object)); });
-  owned.release();
+  static_cast<void>(owned.release());
   return array;
 }
 

@@ -1,6 +1,4 @@
 #include "korvane/String.hpp"
-
-#define ZX_HOST  // no extension: no record, no entry point
 #include "standalone/HostValue.hpp"
 #include "zex.h"
 

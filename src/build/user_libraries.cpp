@@ -78,7 +78,7 @@ void resolveLibraries(ZexOpt& option, const ZexVarResolver& resolver, const ZexA
 }
 
 std::vector<ustring> librarySearchPath(const ZexOpt& option, const ZexArgs& args) {
-  const auto attribute = option.value(u"config.Details.<xmlattr>.LibrarySearchPath");
+  const auto attribute = option.detail(u"LibrarySearchPath");
   if (!attribute || attribute->empty()) return {};
 
   std::vector<ustring> path = splitTokens(*attribute, u";");

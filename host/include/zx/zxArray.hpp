@@ -1,21 +1,6 @@
 #pragma once
 
-/// Marks what libzx shows to hosts of extensions.
-#if defined(_WIN32)
-#if defined(ZX_BUILD)
-#define ZX_HOST_API __declspec(dllexport)
-#else
-#define ZX_HOST_API __declspec(dllimport)
-#endif
-#else
-#define ZX_HOST_API __attribute__((visibility("default")))
-#endif
-
-/// A value of the host, owned by whoever made or received it until `zxDestroyArray`.
-struct zxArray;
-
-extern "C" {
-ZX_HOST_API zxArray* zxCreateString(const char* text);  ///< UTF-8
-ZX_HOST_API zxArray* zxCreateString_UTF16(const char16_t* text);
-ZX_HOST_API void zxDestroyArray(zxArray* array);  ///< null is allowed
-}
+/// Values of the host: `zxArray`, `zxCreateString`, `zxCreateString_UTF16`, `zxDestroyArray` and the rest of what
+/// extensions and hosts share. The macro ZX_HOST, which comes with this contract, keeps the record and the entry
+/// point of an extension out.
+#include "zex.h"

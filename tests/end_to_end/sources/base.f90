@@ -1,0 +1,3 @@
+module base
+  integer, parameter :: low = 40
+end module

@@ -1,0 +1,3 @@
+subroutine zexfunction
+  x = = 1
+end

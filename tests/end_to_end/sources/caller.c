@@ -1,0 +1,2 @@
+long long helper(void);
+void zexFunction(long long* answer) { *answer = helper(); }

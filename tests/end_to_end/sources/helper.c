@@ -1,0 +1,1 @@
+long long helper(void) { return 6; }

@@ -1,0 +1,4 @@
+module raised
+  use base
+  integer, parameter :: high = low + 4
+end module
