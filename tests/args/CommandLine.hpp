@@ -41,56 +41,51 @@ class CommandLine : public testing::Test {
   }
 
  private:
-  static void tell(std::string& text, const std::string& name, const std::string& value) {
-    if (!value.empty()) text += (text.empty() ? "" : "; ") + name + "=" + value;
-  }
-  static void tell(std::string& text, const std::string& name, const fl::ustring& value) {
-    tell(text, name, fl::i18n::to_string(value));
-  }
-
-  std::string changedFlags(const Args& fresh) const {
-    const std::pair<const char*, bool Args::*> flags[] = {
-        {"compatible", &Args::compatibleArrayDims},
-        {"compileOnly", &Args::compileOnly},
-        {"debug", &Args::debug},
-        {"dryRun", &Args::dryRun},
-        {"large", &Args::largeArrayDims},
-        {"optimize", &Args::optimize},
-        {"setup", &Args::setup},
-        {"silent", &Args::silent},
-        {"verbose", &Args::verbose},
-        {"linkOnly", &Args::linkOnly},
-        {"word", &Args::setupLanguageGiven},
-        {"host", &Args::calledFromHost},
-        {"check", &Args::zexCheck},
-    };
-    std::string changed;
-    for (const auto& [name, flag] : flags) {
-      if (args.*flag != fresh.*flag) changed += (changed.empty() ? "" : ",") + std::string(name);
-    }
-    return changed;
-  }
+  static std::string shown(const std::string& text) { return text; }
+  static std::string shown(const fl::ustring& text) { return fl::i18n::to_string(text); }
 
   std::string summary() const {
+    std::string text, languages, changed;
+    const auto tell = [&](const std::string& name, const auto& value) {
+      if (!value.empty()) text += (text.empty() ? "" : "; ") + name + "=" + shown(value);
+    };
+    const auto list = [](std::string& names, const std::string& name) {
+      names += (names.empty() ? "" : ",") + name;
+    };
     const Args fresh;
-    std::string text, languages;
-    for (const std::string& name : args.languages) languages += (languages.empty() ? "" : ",") + name;
     for (const char* name : {"DEFINES", "INCLUDE", "LIBPATH", "LIBRARIES", "EXLIBRARIES"}) {
-      tell(text, name, args.variableByName(name));
+      tell(name, args.variableByName(name));
     }
-    tell(text, "arch", args.arch == fresh.arch ? std::string() : args.arch);
-    tell(text, "client", args.client);
-    tell(text, "release", args.release);
-    tell(text, "languages", languages);
-    tell(text, "sources", args.sourcesText());
-    tell(text, "objects", args.objectsText());
-    tell(text, "optionsFile", args.optionsFile);
-    tell(text, "output", args.output);
-    tell(text, "outDir", args.outDir);
-    tell(text, "setupArgument", args.setupArgument);
-    tell(text, "tempDir", args.tempDir);
-    for (const auto& [name, value] : args.variables) tell(text, fl::i18n::to_string(name), u"<" + value + u">");
-    tell(text, "flags", changedFlags(fresh));
+    tell("arch", args.arch == fresh.arch ? std::string() : args.arch);
+    tell("client", args.client);
+    tell("release", args.release);
+    for (const std::string& name : args.languages) list(languages, name);
+    tell("languages", languages);
+    tell("sources", args.sourcesText());
+    tell("objects", args.objectsText());
+    tell("optionsFile", args.optionsFile);
+    tell("output", args.output);
+    tell("outDir", args.outDir);
+    tell("setupArgument", args.setupArgument);
+    tell("tempDir", args.tempDir);
+    for (const auto& [name, value] : args.variables) tell(shown(name), u"<" + value + u">");
+    const std::pair<const char*, bool Args::*> flags[] = {{"compatible", &Args::compatibleArrayDims},
+                                                          {"compileOnly", &Args::compileOnly},
+                                                          {"debug", &Args::debug},
+                                                          {"dryRun", &Args::dryRun},
+                                                          {"large", &Args::largeArrayDims},
+                                                          {"optimize", &Args::optimize},
+                                                          {"setup", &Args::setup},
+                                                          {"silent", &Args::silent},
+                                                          {"verbose", &Args::verbose},
+                                                          {"linkOnly", &Args::linkOnly},
+                                                          {"word", &Args::setupLanguageGiven},
+                                                          {"host", &Args::calledFromHost},
+                                                          {"check", &Args::zexCheck}};
+    for (const auto& [name, flag] : flags) {
+      if (args.*flag != fresh.*flag) list(changed, name);
+    }
+    tell("flags", changed);
     return text;
   }
 

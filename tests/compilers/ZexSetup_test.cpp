@@ -191,16 +191,6 @@ TEST_F(Setup, ACallerGetsTheListOfResolvedDocuments) {
   EXPECT_NE(tree.host.output.find("list.xml is output.\n"), std::string::npos);
 }
 
-TEST_F(Setup, AQueryPrintsAndWritesNothing) {
-  tree.offer("a.xml", compiler("1", "A"));
-  tree.offer("b.xml", compiler("2", "B"));
-  for (const char* kind : {"selected", "installed", "supported", "default"}) {
-    EXPECT_EQ(setup({u"-setup", u"C"}, kind), "no error");
-    EXPECT_EQ(tree.host.output, "");
-  }
-  EXPECT_TRUE(preferences().empty());
-}
-
 TEST_F(Setup, ListReportHoldsDocumentsAndTheReportTexts) {
   Document document = compiler("1", "A");
   document.vars = "SAID=\"&quot;x&quot;\"";

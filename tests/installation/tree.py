@@ -1,28 +1,32 @@
-"""Where the data of the installed tree lies, and the option documents among it."""
+"""Where the data of the installed tree lies, and a folder in which tools work upon it."""
 
 import pathlib
-import xml.etree.ElementTree as ElementTree
+import re
+import shutil
+import subprocess
+import tempfile
+import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 DATA = ROOT / "installation"
-ZEXOPTS = DATA / "bin" / "glnxa64" / "zexopts"
-SCHEMA = ZEXOPTS / "zexopts.xsd"
+STRICT = ["-Wall", "-Wextra", "-pedantic", "-Werror"]
 
 
-class Document:
-    """One option document: its text, and the parts that tests look into."""
+class ToolTest(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
 
-    def __init__(self, path):
-        self.path = path
-        self.text = path.read_text(encoding="utf-8")
-        self.config = ElementTree.fromstring(self.text)
-        self.vars = self.config.find("vars").attrib
-        self.finder = self.config.find("locationFinder")
-        self.commands = {name: text for name, text in self.vars.items() if name.startswith("CMDLINE")}
+    def run_tool(self, *command):
+        if shutil.which(command[0]) is None:
+            self.skipTest(f"{command[0]} is not installed")
+        return subprocess.run(command, cwd=self.folder, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
 
-    def client_attributes(self):
-        return [attribute for client in self.config.iterfind("client/*") for attribute in client.attrib.items()]
+    def expect_silence(self, *command):
+        result = self.run_tool(*command)
+        self.assertEqual((result.returncode, result.stdout), (0, ""), command)
 
-
-def shipped_documents():
-    return [Document(path) for path in sorted(DATA.glob("bin/*/zexopts/*.xml"))]
+    def records(self, file):
+        found = re.findall(rb"@\(#\)zex-record [ -:<-~]*;", (self.folder / file).read_bytes())
+        return [record.decode("ascii") for record in found]
