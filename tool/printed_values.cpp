@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <optional>
 
 #include "values.hpp"
 
@@ -14,6 +15,21 @@ namespace {
 
 namespace json = boost::json;
 
+/// An element of a logical array: a type of its own, since std::uint8_t is unsigned char as well.
+enum class Logical : unsigned char {};
+
+bool isTrue(Logical truth) {
+  return static_cast<unsigned char>(truth) != 0;
+}
+
+/// A number as an integer where that says the same, for 100000 is easier to read than 1e+05.
+std::optional<std::int64_t> plainInteger(double number) {
+  constexpr double exactIntegers = 9007199254740992;
+  const bool isMinusZero = number == 0 && std::signbit(number);
+  if (std::trunc(number) != number || !(std::abs(number) < exactIntegers) || isMinusZero) return std::nullopt;
+  return static_cast<std::int64_t>(number);
+}
+
 /// The shortest text that reads back as the same number.
 template <class Number>
 std::string written(Number number) {
@@ -22,13 +38,14 @@ std::string written(Number number) {
   return {text, end.ptr};
 }
 
-std::string written(unsigned char truth) {
-  return truth == 0 ? "false" : "true";
+std::string written(Logical truth) {
+  return isTrue(truth) ? "true" : "false";
 }
 
 std::string written(double number) {
   if (std::isnan(number)) return "NaN";
   if (std::isinf(number)) return number < 0 ? "-Inf" : "Inf";
+  if (const auto integer = plainInteger(number)) return written(*integer);
   return written<double>(number);
 }
 
@@ -42,17 +59,13 @@ json::value inJson(Number number) {
   return number;
 }
 
-json::value inJson(unsigned char truth) {
-  return truth != 0;
+json::value inJson(Logical truth) {
+  return isTrue(truth);
 }
 
 json::value inJson(double number) {
   if (!std::isfinite(number)) return json::string(written(number));
-  // 10 and not 1E1, for those who read along.
-  constexpr double exactIntegers = 9007199254740992;
-  const bool isMinusZero = number == 0 && std::signbit(number);
-  const bool isPlain = std::trunc(number) == number && std::abs(number) < exactIntegers && !isMinusZero;
-  if (isPlain) return static_cast<std::int64_t>(number);
+  if (const auto integer = plainInteger(number)) return *integer;
   return number;
 }
 
@@ -70,7 +83,7 @@ void withElements(const zxArray* array, Use use) {
     case ZX_COMPLEX:
       return use(zxReadComplexes(array));
     case ZX_LOGICAL:
-      return use(static_cast<const unsigned char*>(zxReadData(array, kind)));
+      return use(static_cast<const Logical*>(zxReadData(array, kind)));
     case ZX_INT8:
       return use(static_cast<const std::int8_t*>(zxReadData(array, kind)));
     case ZX_INT16:
@@ -93,10 +106,15 @@ void withElements(const zxArray* array, Use use) {
   }
 }
 
+/// The rows to print; none without elements, however many rows an array of no columns has.
+std::size_t printedRows(const zxArray* array) {
+  return zxCountOf(array) == 0 ? 0 : static_cast<std::size_t>(zxRowsOf(array));
+}
+
 using Row = std::vector<std::string>;
 
 std::vector<Row> writtenRows(const zxArray* array) {
-  std::vector<Row> rows(static_cast<std::size_t>(zxRowsOf(array)));
+  std::vector<Row> rows(printedRows(array));
   const auto count = static_cast<std::size_t>(zxCountOf(array));
   withElements(array, [&](const auto* elements) {
     for (std::size_t index = 0; index < count; ++index)
@@ -113,7 +131,6 @@ std::string aligned(const std::vector<Row>& rows) {
       widths[column] = std::max(widths[column], row[column].size());
   }
   for (const Row& row : rows) {
-    if (row.empty()) continue;
     text += "  ";
     for (std::size_t column = 0; column < row.size(); ++column)
       text += "  " + std::string(widths[column] - row[column].size(), ' ') + row[column];
@@ -123,7 +140,7 @@ std::string aligned(const std::vector<Row>& rows) {
 }
 
 json::array rowsInJson(const zxArray* array) {
-  json::array rows(static_cast<std::size_t>(zxRowsOf(array)), json::array());
+  json::array rows(printedRows(array), json::array());
   const auto count = static_cast<std::size_t>(zxCountOf(array));
   withElements(array, [&](const auto* elements) {
     for (std::size_t index = 0; index < count; ++index)

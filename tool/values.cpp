@@ -2,10 +2,11 @@
 
 #include <algorithm>
 #include <charconv>
-#include <complex>
 #include <cstdint>
+#include <cstdlib>
 #include <optional>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "program.hpp"
@@ -98,7 +99,14 @@ std::optional<Number> taken(std::string_view& text) {
   std::string_view rest = text;
   if (rest.starts_with('+') && rest.size() > 1 && rest[1] != '-') rest.remove_prefix(1);
   Number number{};
-  const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), number);
+  auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), number);
+  if constexpr (std::is_floating_point_v<Number>) {
+    // Too small or too large is a number nevertheless: it is rounded to 0 or to infinity.
+    if (error == std::errc::result_out_of_range) {
+      number = std::strtod(std::string(rest.data(), end).c_str(), nullptr);
+      error = {};
+    }
+  }
   if (error != std::errc()) return std::nullopt;
   text = rest.substr(static_cast<std::size_t>(end - rest.data()));
   return number;

@@ -18,8 +18,7 @@ using Value = std::unique_ptr<zxArray, Destroyed>;
 const char* nameOf(zxKind kind);
 
 /// The value that an argument writes, in UTF-8: `3`, `-2.5e3`, `1-2i`, `true`, `'text'` or `"text"`, a matrix such
-/// as
-/// `[1 2; 3 4]`, or one of them as another kind, as in `int8([1 2])`. Raises UsageError.
+/// as `[1 2; 3 4]`, or one of them as another kind, as in `int8([1 2])`. Raises UsageError.
 Value parsedValue(const std::string& argument);
 
 }  // namespace tool

@@ -1,7 +1,10 @@
 #include <algorithm>
+#include <charconv>
 #include <csignal>
 #include <cstdio>
+#include <optional>
 
+#include "KeptOutput.hpp"
 #include "fl/i18n/strings.hpp"
 #include "korvane/TException.hpp"
 #include "printed_values.hpp"
@@ -31,11 +34,12 @@ struct Request {
 int countOf(const fl::ustring& text) {
   constexpr int mostOutputs = 1000;
   const std::string digits = fl::i18n::to_string(text);
-  const bool isCount = !digits.empty() && digits.size() < 5 &&
-                       digits.find_first_not_of("0123456789") == std::string::npos &&
-                       std::stoi(digits) <= mostOutputs;
-  if (!isCount) throw tool::UsageError("'" + digits + "' is no number of outputs");
-  return std::stoi(digits);
+  const char* const last = digits.data() + digits.size();
+  int count = 0;
+  const auto [end, error] = std::from_chars(digits.data(), last, count);
+  if (error != std::errc() || end != last || count < 0 || count > mostOutputs || digits.front() == '-')
+    throw tool::UsageError("'" + digits + "' is no number of outputs");
+  return count;
 }
 
 Request requestOf(const std::vector<fl::ustring>& arguments) {
@@ -61,10 +65,6 @@ void letInterruptsEndTheProgram() {
   for (const int signal : {SIGINT, SIGTERM}) {
     if (std::signal(signal, SIG_DFL) == SIG_IGN) std::signal(signal, SIG_IGN);
   }
-}
-
-void toStandardError(const char* text, std::size_t length) {
-  std::fwrite(text, 1, length, stderr);
 }
 
 std::vector<tool::Value> called(host::standalone::LoadedProduct& product, const Request& request) {
@@ -97,12 +97,17 @@ void runExtension(const std::vector<fl::ustring>& arguments) {
     return;
   }
   const Request request = requestOf(arguments);
-  if (request.json) zxSetWriter(toStandardError);
+  std::optional<tool::KeptOutput> kept;
+  if (request.json) kept.emplace();
   letInterruptsEndTheProgram();
   host::standalone::LoadedProducts products;
   const std::vector<tool::Value> outputs = called(products.load(request.product), request);
   const tool::NamedValues named = namedOutputs(outputs, request);
-  std::fputs((request.json ? tool::jsonOf(named) : tool::printed(named)).c_str(), stdout);
+  if (!kept) {
+    std::fputs(tool::printed(named).c_str(), stdout);
+  } else if (!kept->write(tool::jsonOf(named))) {
+    throw Korvane::TException::HostError("TESSEL:zexrun:OutputNotWritten", u"Cannot write to standard output.");
+  }
 }
 
 }  // namespace

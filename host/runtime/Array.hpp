@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 
@@ -40,7 +41,7 @@ struct zxArray {
   std::size_t rows = 0;
   std::size_t columns = 0;
 
-  // Rearranged under readers of the other release: the content stays the same.
+  // Rearranged under readers of the other release: the content stays the same. See heldAgainstReaders.
   mutable zx::Elements elements;
   mutable zx::ComplexForm form = zx::ComplexForm::pairs;
 
@@ -59,6 +60,14 @@ namespace zx {
 const zxArray& present(const zxArray* array);
 zxArray& present(zxArray* array);
 
+/// The characters of a text, or a failure where there are none.
+const char* presentText(const char* text);
+const zxUnit* presentText(const zxUnit* text);
+
+/// Held while content is read that a reader on another thread may be replacing. One for all arrays: it is held for
+/// long only where complex elements are rearranged, which is rare.
+std::unique_lock<std::mutex> heldAgainstReaders();
+
 /// Fails where the array is of another kind than `kind`.
 void requireKind(const zxArray& array, zxKind kind);
 
@@ -72,6 +81,9 @@ Elements allocate(std::size_t count, std::size_t size);
 
 /// Puts the elements of a complex array into a form and gives them.
 double* complexElements(const zxArray& array, ComplexForm form);
+
+/// Makes an array complex, in parts, and gives the elements that were replaced, if any.
+Elements becomeParts(zxArray& array);
 
 /// Copies imaginary parts in from an index on; the array becomes complex.
 void setImaginary(zxArray& array, std::int64_t first, std::int64_t count, const double* values);

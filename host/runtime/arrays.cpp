@@ -24,6 +24,11 @@ zxArray& present(zxArray* array) {
   return const_cast<zxArray&>(present(static_cast<const zxArray*>(array)));
 }
 
+std::unique_lock<std::mutex> heldAgainstReaders() {
+  static std::mutex held;
+  return std::unique_lock(held);
+}
+
 void requireKind(const zxArray& array, zxKind kind) {
   if (array.kind == kind) return;
   zexFail("TESSEL:zx:WrongKind", "An array of the kind %s is needed, not one of the kind %s.",
@@ -75,9 +80,10 @@ zxArray* zxCopy(const zxArray* source) {
   array->kind = from.kind;
   array->rows = from.rows;
   array->columns = from.columns;
-  array->form = from.form;
   array->text = from.text;
   const std::size_t size = zx::kindNamed(from.kind).size;
+  const auto held = zx::heldAgainstReaders();
+  array->form = from.form;
   if (from.elements) {
     array->elements = zx::allocate(from.count(), size);
     std::memcpy(array->elements.get(), from.elements.get(), from.count() * size);

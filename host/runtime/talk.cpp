@@ -16,6 +16,7 @@ void toStandardOutput(const char* text, std::size_t length) {
 std::atomic<zxWriter> writer = toStandardOutput;
 
 std::string formatted(const char* format, va_list arguments) {
+  zx::presentText(format);
   va_list measured;
   va_copy(measured, arguments);
   const int length = std::vsnprintf(nullptr, 0, format, measured);
@@ -53,5 +54,5 @@ void zexFail(const char* identifier, const char* format, ...) {
   va_start(arguments, format);
   std::string text = formatted(format, arguments);
   va_end(arguments);
-  zx::fail(identifier, std::move(text));
+  zx::fail(zx::presentText(identifier), std::move(text));
 }

@@ -32,8 +32,10 @@ Issue contradiction(const Interface& one, const Interface& other) {
     remedy += " Some are for " + releaseOf(one) + ", others for " + releaseOf(other) +
               ": compile all of them with the same release switch, -R2017b or -R2018a.";
   if (one.dims != other.dims)
-    remedy += " Some have " + one.dims + "-bit array sizes, others " + other.dims +
-              "-bit ones: compile all of them with -compatibleArrayDims, or all without.";
+    remedy +=
+        " Some have " + one.dims + "-bit array sizes, others " + other.dims +
+        "-bit ones: compile all of them with -compatibleArrayDims, or all without, or include zimstruc.h ahead of "
+        "tzwtypes.h.";
   return issue("Contradicting interfaces: " + described(one) + ", and " + described(other) + ".", remedy);
 }
 

@@ -43,6 +43,7 @@ constexpr ElfLayout wide = {
     .sectionSize = {32, 8},
 };
 
+constexpr char magic[] = {0x7F, 'E', 'L', 'F', 0};
 constexpr Field widthOfWords = {4, 1}, byteOrder = {5, 1};
 constexpr std::uint64_t loadedSegment = 1, emptySection = 8, loadedSection = 2;
 
@@ -76,9 +77,7 @@ void addSections(const ObjectImage& image, const ElfLayout& layout, const Table&
 }  // namespace
 
 void addLoadedOfElf(const ObjectImage& image, LoadedParts& loaded) {
-  if (!image.startsWith("\x7F"
-                        "ELF"))
-    return;
+  if (!image.startsWith(magic)) return;
   const Entry identification = image.entry(0, std::endian::little);
   const ElfLayout& layout = identification[widthOfWords] == 1 ? narrow : wide;
   const std::endian order = identification[byteOrder] == 2 ? std::endian::big : std::endian::little;

@@ -52,7 +52,7 @@ std::optional<int> formOf(const Words& words) {
   const std::string_view value = words.contains("form") ? valueOf(words, "form") : "0";
   int form = 0;
   const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), form);
-  if (error != std::errc{} || end != value.data() + value.size()) return std::nullopt;
+  if (error != std::errc{} || end != value.data() + value.size() || form < 0) return std::nullopt;
   return form;
 }
 

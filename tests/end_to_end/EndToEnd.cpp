@@ -2,12 +2,14 @@
 
 #include <dlfcn.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <set>
+#include <stdexcept>
 
 namespace end_to_end {
 
@@ -17,10 +19,6 @@ namespace {
 
 fs::path documents() {
   return fs::path(ZEX_TREE) / "bin" / "glnxa64" / "zexopts";
-}
-
-std::string lastWordOf(const std::string& text) {
-  return text.substr(text.rfind(' ') + 1);
 }
 
 /// Relative names of all that lies below a folder; of the folders only the empty ones.
@@ -35,19 +33,17 @@ std::set<std::string> everythingBelow(const fs::path& folder) {
 
 }  // namespace
 
-EndToEnd::EndToEnd()
-    : work(scratch.folder() / "work"),
-      temporary(fs::path("/tmp") / ("zex_é_" + lastWordOf(scratch.folder().string()))) {
+EndToEnd::EndToEnd() : work(scratch.folder() / "work"), temporary("/tmp/zex_é_" + std::to_string(getpid())) {
   fs::copy(ZEX_TEST_SOURCES, work);
   fs::create_directory(temporary);
   fs::create_directory(scratch.folder() / "prefs");
   fs::current_path(work);
-  variables_.emplace_back("ZEX", ZEX_PROGRAM);
-  variables_.emplace_back("OPTS", documents().c_str());
-  variables_.emplace_back("TMPDIR", temporary.c_str());
-  variables_.emplace_back("TESSEL_PREFDIR", (scratch.folder() / "prefs").c_str());
-  variables_.emplace_back("TESSEL_LOCALE", "id");
-  variables_.emplace_back("LC_ALL", "C");
+  const std::pair<const char*, std::string> values[] = {
+      {"ZEX", ZEX_PROGRAM},    {"OPTS", documents()},
+      {"TMPDIR", temporary},   {"TESSEL_PREFDIR", scratch.folder() / "prefs"},
+      {"TESSEL_LOCALE", "id"}, {"LC_ALL", "C"},
+  };
+  for (const auto& [name, value] : values) variables_.emplace_back(name, value.c_str());
   for (const char* name : {"TESSEL_ROOT", "TESSEL_ZEXCHECK_OFF"}) variables_.emplace_back(name, nullptr);
 }
 
@@ -85,13 +81,12 @@ void EndToEnd::expectNoTemporaryFiles() const {
 
 long long answer(const std::string& product) {
   void* const library = dlopen(fs::absolute(product).c_str(), RTLD_NOW | RTLD_LOCAL);
-  EXPECT_NE(library, nullptr) << dlerror();
-  if (library == nullptr) return -1;
+  if (library == nullptr) throw std::runtime_error(dlerror());
   void* entry = dlsym(library, "zexFunction");
   if (entry == nullptr) entry = dlsym(library, "zexfunction_");  // as Fortran compilers write the name
-  EXPECT_NE(entry, nullptr) << product << " has no entry point";
+  if (entry == nullptr) throw std::runtime_error(product + " has no entry point");
   long long stored = -1;
-  if (entry != nullptr) reinterpret_cast<void (*)(long long*)>(entry)(&stored);
+  reinterpret_cast<void (*)(long long*)>(entry)(&stored);
   dlclose(library);
   return stored;
 }
@@ -119,6 +114,12 @@ std::string gccDocument(const std::string& from, const std::string& to) {
     text.replace(position, from.size(), to);
   }
   return text;
+}
+
+std::size_t timesIn(const std::string& text, const std::string& word) {
+  std::size_t count = 0;
+  for (std::size_t at = text.find(word); at != std::string::npos; at = text.find(word, at + 1)) ++count;
+  return count;
 }
 
 bool needsMissingTool(const std::string& arguments) {

@@ -38,6 +38,9 @@ class EndToEnd : public testing::Test {
   /// The same, and the command succeeds.
   Outcome build(const std::string& arguments, const Names& made = {}) const;
 
+  /// Runs the program that calls a product.
+  Outcome zexrun(const std::string& arguments) const { return shell("\"$OPTS/../zexrun\" " + arguments); }
+
   void expectNoTemporaryFiles() const;
 
   zex_test::Scratch scratch;
@@ -63,12 +66,7 @@ std::string gccDocument(const std::string& from, const std::string& to);
 /// Whether arguments name a CUDA source and nvcc, which alone of the compilers may be missing, is not there.
 bool needsMissingTool(const std::string& arguments);
 
-/// Names a test of a table after the `name` of its row.
-struct NameOfRow {
-  template <class Info>
-  std::string operator()(const Info& row) const {
-    return row.param.name;
-  }
-};
+/// How often a word is in a text.
+std::size_t timesIn(const std::string& text, const std::string& word);
 
 }  // namespace end_to_end

@@ -38,11 +38,6 @@ TEST_F(Selection, TheCurrentFolderHidesThePreferencesFolderWhichHidesTheCatalogu
   EXPECT_EQ(contentOf(preferred()), document("preferred", "R2018a"));
 }
 
-TEST_F(Selection, ASelectedCompilerThatIsGoneIsNotReplaced) {
-  write(preferred(), gccDocument("gcc\" />", "gcc-that-is-gone\" />"));
-  EXPECT_THAT(zex("value.c").err, testing::EndsWith("[TESSEL:zex:NoCompilerFound_Win64]\n"));
-}
-
 TEST_F(Selection, AnOutdatedPreferenceIsRewrittenFromTheCatalogueOnce) {
   const std::string outdated = document("old", "R2016b");
   write(preferred(), outdated);
@@ -57,15 +52,6 @@ TEST_F(Selection, AnOutdatedPreferenceIsRewrittenFromTheCatalogueOnce) {
   EXPECT_EQ(compilerOf("value.c"), "gcc");
   EXPECT_EQ(contentOf(preferred()), refreshed);
   EXPECT_EQ(contentOf(preferred("_backup")), outdated);
-}
-
-TEST_F(Selection, AnOutdatedDocumentElsewhereIsLeftAlone) {
-  const std::string outdated = document("old", "R2016b");
-  write("my.xml", outdated);
-  write(preferred(), outdated);
-  EXPECT_EQ(compilerOf("-f my.xml value.c"), "old");
-  EXPECT_EQ(contentOf("my.xml"), outdated);
-  EXPECT_EQ(scratch.names("prefs").size(), 1U);
 }
 
 }  // namespace end_to_end

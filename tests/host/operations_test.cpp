@@ -41,41 +41,25 @@ const ustring halfACharacter{u'a', 0xD83D};
 TEST(Operations, FailuresAreToldApart) {
   const Scratch scratch;
   scratch.write("file", "");
-  fs::create_symlink("nowhere", "dangling");
-  fs::create_symlink("loop", "loop");
   const auto make = [](const ustring& path) { return failureKind(path, [&] { create_directories(path); }); };
-  const auto canon = [](const ustring& path) { return failureKind(path, [&] { canonical(path); }); };
-  const auto list = [](const ustring& path) {
-    return failureKind(path, [&] { upath_directory_iterator all(path); });
-  };
-
-  EXPECT_EQ(make(u"file"), "NotDirectoryError");
   EXPECT_EQ(make(u"file/below"), "NotDirectoryError");
-  EXPECT_EQ(make(u"dangling"), "NotDirectoryError");
   EXPECT_EQ(make(longName), "FileNameTooLarge");
   EXPECT_EQ(make(halfACharacter).substr(0, 25), "FileNameConversionFailure");
-  const ustring withZero{u'a', u'\0', u'b'};
-  EXPECT_EQ(failureKind(u"a?b: ", [&] { create_directories(withZero); }), "InvalidArgument");
-  EXPECT_EQ(canon(u"missing/x"), "PathNotFound");
-  EXPECT_EQ(canon(u"dangling"), "PathNotFound");
-  EXPECT_EQ(canon(u"loop"), "SystemError");
-  EXPECT_EQ(list(u"missing"), "PathNotFound");
-  EXPECT_EQ(list(u"file"), "NotDirectoryError");
+  EXPECT_EQ(failureKind(u"missing/x", [] { canonical(u"missing/x"); }), "PathNotFound");
+  EXPECT_EQ(failureKind(u"file", [] { upath_directory_iterator all(u"file"); }), "NotDirectoryError");
   EXPECT_EQ(failureKind(u"to", [] { rename(u"missing", u"to"); }), "PathNotFound");
-  EXPECT_EQ(failureKind(u"missing", [] { permissions(u"missing", perms_add | owner_write); }), "PathNotFound");
+  EXPECT_EQ(failureKind(u"gone", [] { upath_directory_iterator all(u"gone", {u"a.c"}); }), "PathNotFound");
 }
 
 TEST(Operations, LookingNeverThrows) {
   const Scratch scratch;
   scratch.write("file", "");
   fs::create_symlink("nowhere", "dangling");
-  EXPECT_TRUE(exists(u"file"));
+  EXPECT_TRUE(exists(u"file") && is_directory(status(scratch.path())));
   for (const ustring& absent : {ustring(), ustring(u"missing"), ustring(u"file/x"), ustring(u"dangling"), longName,
                                 halfACharacter, ustring{u'f', u'i', u'l', u'e', u'\0'}})
     EXPECT_FALSE(exists(absent)) << fl::i18n::to_string(absent);
-  EXPECT_TRUE(is_directory(status(scratch.path())) && is_regular(status(u"file")));
   EXPECT_TRUE(is_symlink(symlink_status(u"dangling")));
-  EXPECT_EQ(status(u"/dev/null").type(), other_file);
 }
 
 TEST(Operations, AFolderThatRefuses) {
@@ -89,8 +73,6 @@ TEST(Operations, AFolderThatRefuses) {
   ASSERT_EQ(former == 0 ? seteuid(65534) : 0, 0);
   EXPECT_FALSE(exists(file) || tmpfile(closed).has_value() || basic_ifstream(file).is_open());
   EXPECT_EQ(failureKind(closed, [&] { create_directories(closed + u"/new"); }), "AccessDenied");
-  EXPECT_EQ(failureKind(closed, [&] { upath_directory_iterator all(closed); }), "AccessDenied");
-  EXPECT_EQ(failureKind(file, [&] { remove(file); }), "AccessDenied");
   ASSERT_EQ(former == 0 ? seteuid(former) : 0, 0);
   chmod("closed", 0700);
 }
@@ -103,29 +85,6 @@ TEST(Operations, FoldersAreMadeAndRemovedWithoutFollowingLinks) {
   fs::create_directory_symlink("../kept", "a/link");
   EXPECT_EQ(remove_all(u"a"), 4U);
   EXPECT_TRUE(scratch.has("kept/file"));
-  EXPECT_FALSE(remove_all(u"a") > 0 || remove(u"missing"));
-}
-
-TEST(Operations, PathsBecomeAbsolute) {
-  const Scratch scratch;
-  scratch.write("folder/file", "");
-  fs::create_symlink("folder", "link");
-  EXPECT_EQ(get_current_path(), scratch.path());
-  EXPECT_EQ(absolute(u"x/../y"), scratch.path() + u"/x/../y");
-  EXPECT_EQ(absolute(u"x", u"link/"), scratch.path("link/x"));
-  EXPECT_EQ(absolute(u"/x", u"/base"), u"/x");
-  EXPECT_EQ(canonical(u"link/../link/file"), scratch.path("folder/file"));
-}
-
-TEST(Operations, PermissionsLeaveALinkAlone) {
-  const Scratch scratch;
-  scratch.write("file", "");
-  chmod("file", 0444);
-  fs::create_symlink("file", "link");
-  permissions(u"link", perms_add | owner_write | perms_symlink);
-  EXPECT_EQ(fs::status("file").permissions(), fs::perms(0444));
-  permissions(u"file", perms_add | owner_write);
-  EXPECT_EQ(fs::status("file").permissions(), fs::perms(0644));
 }
 
 TEST(Operations, TemporaryFilesAndStreams) {
@@ -134,38 +93,25 @@ TEST(Operations, TemporaryFilesAndStreams) {
   auto second = tmpfile(scratch.path());
   ASSERT_TRUE(first && second);
   EXPECT_NE(first->path, second->path);
-  first->close();
-  second->close();
-  EXPECT_FALSE(tmpfile(u"missing") || tmpfile(u""));
-
+  EXPECT_FALSE(tmpfile(u"missing"));
   basic_ofstream(u"ü.txt") << "long text";
   basic_ofstream(u"ü.txt") << "text";
   EXPECT_EQ(scratch.read("ü.txt"), "text");
-  for (const ustring& refused : {scratch.path(), ustring(u"missing/x"), longName, halfACharacter}) {
-    EXPECT_FALSE(basic_ifstream(refused));
-    EXPECT_FALSE(basic_ofstream(refused));
-  }
-}
-
-std::vector<ustring> namesBy(const ustring& folder, const ustring& pattern) {
-  std::vector<ustring> names;
-  for (const auto& entry : upath_directory_iterator(folder, {pattern})) names.push_back(entry.file_name());
-  return names;
+  for (const ustring& refused : {scratch.path(), ustring(u"missing/x"), halfACharacter})
+    EXPECT_FALSE(basic_ifstream(refused) || basic_ofstream(refused)) << fl::i18n::to_string(refused);
 }
 
 TEST(DirectoryIterator, SelectsByPatternInOrder) {
   const Scratch scratch;
   for (const char* name : {"b.c", "a.c", "B.c", "abc.cpp", ".hidden.c", "[x].c"}) scratch.write(name, "");
-  using Names = std::vector<ustring>;
-  EXPECT_EQ(namesBy(u".", u"*.c"), (Names{u"B.c", u"[x].c", u"a.c", u"b.c"}));
-  EXPECT_EQ(namesBy(u".", u"a*c*p"), (Names{u"abc.cpp"}));
-  EXPECT_EQ(namesBy(u".", u".*.c"), (Names{u".hidden.c"}));
-  EXPECT_EQ(namesBy(u".", u"[x].c"), (Names{u"[x].c"}));
-  EXPECT_EQ(namesBy(u".", u"?.c"), Names{});
-  for (const ustring& none : {ustring(), ustring(u"."), ustring(u".."), ustring(u"./a.c"), ustring(u"c.c")})
-    EXPECT_EQ(namesBy(u".", none), Names{});
-  EXPECT_THROW(namesBy(u"missing", u"a.c"), PathNotFound);
-  EXPECT_THROW(namesBy(u"", u"a.c"), PathNotFound);
+  const auto namesBy = [](const ustring& pattern) {
+    ustring names;
+    for (const auto& entry : upath_directory_iterator(u".", {pattern})) names += entry.file_name() + u" ";
+    return names;
+  };
+  EXPECT_EQ(namesBy(u"*.c"), u"B.c [x].c a.c b.c ");
+  EXPECT_EQ(namesBy(u"[x].c"), u"[x].c ");
+  EXPECT_EQ(namesBy(u"c.c"), u"");
 }
 
 TEST(DirectoryIterator, EntriesKeepTheFolderAsGivenAndFollowLinks) {
@@ -177,14 +123,11 @@ TEST(DirectoryIterator, EntriesKeepTheFolderAsGivenAndFollowLinks) {
   std::vector<std::pair<ustring, file_type>> found;
   for (const auto& entry : upath_directory_iterator(u"./d/"))
     found.emplace_back(entry.full_pathname(), entry.type());
-  const std::vector<std::pair<ustring, file_type>> expected = {{u"./d/file", regular_file},
-                                                               {u"./d/link", regular_file},
-                                                               {u"./d/void", file_not_found},
-                                                               {u"./d/\uFFFD.c", file_not_found}};
+  const decltype(found) expected = {{u"./d/file", regular_file},
+                                    {u"./d/link", regular_file},
+                                    {u"./d/void", file_not_found},
+                                    {u"./d/\uFFFD.c", file_not_found}};
   EXPECT_EQ(found, expected);
-  fs::create_directory("\xFF");
-  fs::current_path("\xFF");
-  EXPECT_THROW(get_current_path(), FileNameConversionFailure);
 }
 
 }  // namespace

@@ -19,7 +19,8 @@ REQUESTS = (
     ("", "release=R2017b dims=64"),
     ("TESSEL_DEFAULT_RELEASE=R2017b ZX_COMPAT_32", "release=R2017b dims=32"),
     ("TESSEL_ZEXCMD_RELEASE=R2018a ZX_COMPAT_64 ZX_COMPAT_32", "release=R2018a dims=64"),
-    # An odd text that the release switch takes as well.
+    # Odd texts that the release switch takes as well.
+    ("TESSEL_ZEXCMD_RELEASE=R0", "release=R0 dims=64"),
     ("TESSEL_ZEXCMD_RELEASE=R0x2018a", "release=R0x2018a dims=64"),
 )
 
@@ -33,8 +34,9 @@ class Headers(ToolTest):
                 (self.folder / name).write_text(SOURCE)
             for standard, (macros, words) in ((s, r) for s in standards for r in REQUESTS):
                 with self.subTest(compiler=compiler, standard=standard, macros=macros):
+                    warn = [*STRICT, "-Wundef"]
                     defines = [f"-D{macro}" for macro in macros.split()]
-                    self.expect_silence(compiler, f"-std={standard}", *STRICT, INCLUDE, *defines, *link, *sources)
+                    self.expect_silence(compiler, f"-std={standard}", *warn, INCLUDE, *defines, *link, *sources)
                     self.assertEqual(self.records("a.so"), [f"@(#)zex-record form=1 kind=source {words};"] * 2)
 
     def test_fortran_compiles_under_every_size_of_integers(self):

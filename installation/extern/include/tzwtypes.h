@@ -1,6 +1,7 @@
 /*
- * The types of generated block code, by size. Of the two headers zimstruc.h comes first: what is included here ahead
- * of it would take its sizes for 32 bits. Under ZX_COMPAT_32 that is so anyhow, and the order is free.
+ * The types of generated block code, by size. Of the two headers zimstruc.h comes first: sources that have them the
+ * other way round are old ones, which take sizes for 32 bits. ZX_COMPAT_32 admits such sources, so the order is free
+ * under it, also where ZX_COMPAT_64 keeps sizes at 64 bits.
  */
 #ifndef TZWTYPES_H
 #define TZWTYPES_H

@@ -29,10 +29,15 @@
  * unless it is returned; so nothing leaks when a call ends by an error. Pointers to elements live as long as their
  * array. What a thread of the extension's own makes is freed by zxDestroyArray alone.
  *
- * Errors. zexFail ends the call. So does every function here that is used wrongly: a null array, another kind than the
- * one asked for, a size that is no size. Their identifiers begin with "TESSEL:zx:". The call is left by unwinding, so
- * destructors of C++ run; C and Fortran are passed over. A C++ exception that leaves the entry point ends the call in
- * the same way.
+ * Errors. zexFail ends the call. So does every function here that is used wrongly: a null array, text or pointer to
+ * values, another kind than the one asked for, a size that is no size. Their identifiers begin with "TESSEL:zx:". The
+ * call is left by unwinding, so destructors of C++ run; C and Fortran are passed over. For this they need unwind
+ * tables: compile with -fexceptions, as the shipped compiler documents do. A C++ exception that leaves the entry point
+ * ends the call in the same way.
+ *
+ * Threads. Several may read one array at once, but take the pointers to its elements before you start them: asking for
+ * complex elements in another form ends the pointers that were given before, on every thread. An error in a thread of
+ * the extension's own has no call to end: it ends the process.
  *
  * Two switches of zex decide what this header gives:
  *
@@ -57,13 +62,13 @@
 #define ZX_RELEASE R2017b
 #endif
 
-/* A release is a bare word, which the preprocessor cannot compare: the names of a table are put together with it. A
-   word that is not in the table counts as 0. */
+/* A release is a bare word, which the preprocessor cannot compare: the names of a table are put together with it. An
+   entry goes on from `0 &&`. A word that is not in the table is not evaluated there, so -Wundef has nothing to say. */
 #define ZX_JOIN_NOW(left, right) left##right
 #define ZX_JOIN(left, right) ZX_JOIN_NOW(left, right)
-#define ZX_INTERLEAVED_IN_R2018a 1
+#define ZX_INTERLEAVED_IN_R2018a 0 || 1
 
-#if ZX_JOIN(ZX_INTERLEAVED_IN_, ZX_RELEASE)
+#if 0 && ZX_JOIN(ZX_INTERLEAVED_IN_, ZX_RELEASE)
 #define ZX_INTERLEAVED_COMPLEX 1
 #else
 #define ZX_INTERLEAVED_COMPLEX 0
@@ -230,8 +235,9 @@ ZX_API const zxUnit* zxReadText_UTF16(const zxArray* array);
 /*
  * Complex elements. An array keeps them in one of two forms, pairs or parts. If the other one is asked for than the
  * one that it has, as for an array made by an extension of the other release, they are rearranged: one pass over the
- * elements and, meanwhile, twice the memory. Pointers from before are invalid then. Nothing is rearranged twice within
- * a product, since its objects agree on the release.
+ * elements and, meanwhile, twice the memory. Pointers from before are invalid then. Objects of C and C++ in a product
+ * agree on the release, so among them nothing is rearranged twice. Fortran takes pairs always: beside objects of
+ * another release than R2018a, an array is rearranged each time that it passes from one language to the other.
  */
 #if ZX_INTERLEAVED_COMPLEX
 ZX_API const zxComplex* zxReadComplexes(const zxArray* array);

@@ -23,7 +23,9 @@
 ! c_f_pointer(zx_read_reals(a), m, [zx_rows_of(a), zx_columns_of(a)]). zex_fail ends the call and does not come back.
 !
 ! None of this depends on the release or on the width of array sizes: complex elements are complex(zx_double_complex)
-! and sizes have 64 bits under every switch. Fortran objects therefore agree with all others and carry no record.
+! and sizes have 64 bits under every switch. Fortran objects therefore agree with all others and carry no record. But
+! C and C++ objects take complex elements as parts unless compiled with -R2018a: beside such, asking for the elements
+! rearranges them, and pointers that the other language took before are invalid. Take them anew after each change.
 module zex
   use, intrinsic :: iso_c_binding, only: zx_array => c_ptr, zx_index => c_int64_t, zx_double => c_double, &
       zx_double_complex => c_double_complex, zx_kind => c_int, c_f_pointer, c_associated, c_null_ptr, c_char, &

@@ -5,7 +5,8 @@
 #define ZIMSTRUC_H
 
 #if defined(ZIM_TYPES_CAME_FIRST)
-/* zex looks for this word in what the compiler prints, and compiles once more for 32-bit sizes. */
+/* zex looks for this word in what the compiler prints, and compiles once more with ZX_COMPAT_32. Sizes have 32 bits
+   then, unless a switch asks for 64: -largeArrayDims, -R2018a. */
 #error "tzwtypesbeforezimstrucdetected: include zimstruc.h ahead of tzwtypes.h"
 #endif
 
