@@ -2,9 +2,11 @@
 
 #include <optional>
 
-#include "build/ZexBuildCommand.hpp"
+#include "fl/ustring.hpp"
 
 namespace zex_cmd {
+
+using fl::ustring;
 
 /// Inspects a product for the interface records of its sources. Raises "TESSEL:zex:Error" where they contradict
 /// each other. Gives the flag with which the API version source must be compiled again so that its record agrees
