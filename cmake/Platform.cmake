@@ -20,6 +20,18 @@ endif()
 set(ZEX_TREE ${CMAKE_BINARY_DIR}/tessel)
 set(ZEX_TREE_BIN ${ZEX_TREE}/bin/${ZEX_ARCH})
 
+# Builds a library straight into the tree, found there by what lies beside it. Import libraries of DLLs go to the build
+# folder.
+function(zex_library_in_tree target)
+  set_target_properties(
+    ${target}
+    PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${ZEX_TREE_BIN}
+               RUNTIME_OUTPUT_DIRECTORY ${ZEX_TREE_BIN}
+               ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib
+               BUILD_RPATH_USE_ORIGIN ON
+               INSTALL_RPATH "$ORIGIN")
+endfunction()
+
 # Drops from a list of sources those whose name ends in the suffix of another platform.
 function(zex_keep_platform_sources list)
   if(WIN32)

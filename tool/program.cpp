@@ -5,6 +5,7 @@
 #include <new>
 
 #include "cmd/ZexCmdFactory.hpp"
+#include "command_line.hpp"
 #include "environment.hpp"
 #include "fl/filesystem/exceptions.hpp"
 #include "fl/i18n/MessageCatalog.hpp"
@@ -81,8 +82,7 @@ int showCaught(const std::string& name) {
 }
 
 std::vector<fl::ustring> argumentsOf(int count, char** values) {
-  std::vector<fl::ustring> arguments;
-  for (int index = 1; index < count; ++index) arguments.push_back(fl::i18n::to_ustring(values[index]));
+  std::vector<fl::ustring> arguments = commandLineArguments(count, values);
   if (arguments.size() == 1 && arguments.front() == u"--help") arguments.front() = u"-help";
   return arguments;
 }

@@ -51,7 +51,7 @@ std::vector<ustring> namesIn(const ustring& folder) {
   fs::directory_iterator at(host::standalone::nativePath(folder), reason);
   std::vector<ustring> names;
   while (!reason && at != fs::directory_iterator()) {
-    names.push_back(i18n::to_ustring(at->path().filename().string()));
+    names.push_back(host::standalone::shownPath(at->path().filename()));
     at.increment(reason);
   }
   if (reason) host::standalone::raiseFileFailure(folder, reason);

@@ -50,9 +50,4 @@ ustring lcctype::transform(const ustring& text, letter_case form) {
   return result;
 }
 
-int lcctype::compare(const ustring& left, const ustring& right, comparison kind) {
-  if (kind == case_sensitive) return left.compare(right);
-  return transform(left, to_lower).compare(transform(right, to_lower));
-}
-
 }  // namespace fl::i18n

@@ -68,7 +68,9 @@ ustring canonical(const ustring& path) {
 }
 
 ustring absolute(const ustring& path, const ustring& base) {
-  if (host::standalone::rootLength(path) > 0) return path;
+  if (host::standalone::isAbsolute(path)) return path;
+  // Half a root: a drive and its own current folder, or the root of the current drive.
+  if (host::standalone::rootLength(path) > 0) return pathText(fs::absolute(nativePath(path)));
   return detail::concatenate_pathname(base.empty() ? get_current_path() : absolute(base), path);
 }
 

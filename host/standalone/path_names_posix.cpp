@@ -21,4 +21,8 @@ std::size_t rootLength(fl::ustring_view path) {
   return path.starts_with(u'/') ? 1 : 0;
 }
 
+bool isAbsolute(fl::ustring_view path) {
+  return path.starts_with(u'/');
+}
+
 }  // namespace host::standalone

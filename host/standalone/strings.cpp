@@ -36,4 +36,9 @@ ustring trim(const ustring& text, const ustring& characters) {
   return text.substr(first, text.find_last_not_of(characters) - first + 1);
 }
 
+int lcctype::compare(const ustring& left, const ustring& right, comparison kind) {
+  if (kind == case_sensitive) return left.compare(right);
+  return transform(left, to_lower).compare(transform(right, to_lower));
+}
+
 }  // namespace fl::i18n

@@ -23,6 +23,17 @@ namespace pt = boost::property_tree;
 
 constexpr char encoding[] = "utf-8";
 
+/// Documents are UTF-8 on every platform, whatever the native encoding.
+ustring fromDocument(const std::string& text) {
+  static const fl::i18n::codecvt_string_to_ustring convert("UTF-8");
+  return convert(text);
+}
+
+std::string toDocument(const ustring& text) {
+  static const fl::i18n::codecvt_ustring_to_string convert("UTF-8");
+  return convert(text);
+}
+
 /// A dot in the name of an element or attribute splits it into two levels: deliberate, a key is a path here.
 template <class To, class From, class Convert>
 void convertInto(To& to, const From& from, const Convert& convert) {
@@ -39,7 +50,7 @@ void demandGood(const std::ostream& stream) {
 
 void writeAll(std::ostream& stream, const OptionTree::Element& root) {
   pt::ptree narrow;
-  convertInto(narrow, root, fl::i18n::to_string);
+  convertInto(narrow, root, toDocument);
   pt::write_xml(stream, narrow, pt::xml_writer_settings<std::string>('\t', 1, encoding));
   stream.flush();
   demandGood(stream);
@@ -91,7 +102,7 @@ void OptionTree::readXml(const ustring& path) {
   fs::basic_ifstream stream(path);
   pt::ptree narrow;
   pt::read_xml(stream, narrow, pt::xml_parser::trim_whitespace);
-  convertInto(root, narrow, fl::i18n::to_ustring);
+  convertInto(root, narrow, fromDocument);
   stream.close();
 }
 

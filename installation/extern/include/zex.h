@@ -97,7 +97,11 @@
 #define ZX_API
 #endif
 
-#if defined(__GNUC__)
+#if defined(__MINGW32__)
+/* Formats are those of C99 everywhere, and not those of the system's own library. */
+#define ZX_NEVER_RETURNS __attribute__((noreturn))
+#define ZX_LIKE_PRINTF(text, first) __attribute__((format(gnu_printf, text, first)))
+#elif defined(__GNUC__)
 #define ZX_NEVER_RETURNS __attribute__((noreturn))
 #define ZX_LIKE_PRINTF(text, first) __attribute__((format(printf, text, first)))
 #elif defined(_MSC_VER)

@@ -1,0 +1,10 @@
+# A tree for Windows carries the run-time libraries of the compiler that built it: programs find them beside themselves.
+# They are shared, so that an exception of one library is the same type in all others.
+if(MINGW)
+  foreach(library libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${library} OUTPUT_VARIABLE path
+                    OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    file(COPY ${path} DESTINATION ${ZEX_TREE_BIN})
+    install(FILES ${path} DESTINATION bin/${ZEX_ARCH})
+  endforeach()
+endif()

@@ -1,0 +1,81 @@
+#include <windows.h>
+
+#include <cstdlib>
+#include <system_error>
+
+#include "environment.hpp"
+#include "fl/i18n/environment.hpp"
+#include "standalone/wide.hpp"
+
+namespace tool {
+
+namespace {
+
+using fl::ustring;
+using host::standalone::wide;
+
+void setVariable(const char* name, const ustring& value) {
+  if (!fl::i18n::setenv(name, value))
+    throw std::system_error(std::make_error_code(std::errc::not_enough_memory), std::string("cannot set ") + name);
+}
+
+/// The text that a call of the system puts into a buffer; empty where it fails.
+template <class Call>
+ustring textFrom(Call call) {
+  constexpr DWORD longestPath = 32768;
+  std::wstring buffer(longestPath, L'\0');
+  const DWORD length = call(buffer.data(), longestPath);
+  return length < longestPath ? host::standalone::fromWide(buffer.substr(0, length)) : ustring();
+}
+
+/// The folder that the library would take, in its own order, else the system's.
+ustring temporaryFolder() {
+  for (const char* name : {"TMPDIR", "TMP", "TEMP"}) {
+    if (ustring value = fl::i18n::getenv(name); !value.empty()) return value;
+  }
+  ustring folder = textFrom([](wchar_t* buffer, DWORD room) { return GetTempPathW(room, buffer); });
+  while (folder.ends_with(u'\\')) folder.pop_back();
+  return folder;
+}
+
+/// A command names the response file below the folder, and without quotes: a blank would cut the name in two, and
+/// a character that the shell acts upon would change the command.
+bool fitForCommands(const ustring& folder) {
+  return folder.find_first_of(u" ()&^|<>%!;,=\"'`\t") == ustring::npos;
+}
+
+/// The old form of a name has none of these characters; not every disk keeps one.
+ustring shortForm(const ustring& folder) {
+  return textFrom([&](wchar_t* buffer, DWORD room) { return GetShortPathNameW(wide(folder), buffer, room); });
+}
+
+UINT formerOutputCodePage = 0;
+
+void restoreOutputCodePage() {
+  SetConsoleOutputCP(formerOutputCodePage);
+}
+
+/// Texts are written in the code page of the system, and a console takes them to be in one of its own.
+void matchConsoleToTexts() {
+  formerOutputCodePage = GetConsoleOutputCP();
+  if (formerOutputCodePage == 0 || formerOutputCodePage == GetACP() || SetConsoleOutputCP(GetACP()) == 0) return;
+  std::atexit(restoreOutputCodePage);
+}
+
+}  // namespace
+
+void prepareEnvironment() {
+  matchConsoleToTexts();
+
+  const ustring temporary = temporaryFolder();
+  const ustring fit = fitForCommands(temporary) ? temporary : shortForm(temporary);
+  setVariable("TMPDIR", !fit.empty() && fitForCommands(fit) ? fit : temporary);
+
+  ustring preferences = fl::i18n::getenv("TESSEL_PREFDIR");
+  const ustring former = preferences;
+  while (preferences.size() > 3 && (preferences.ends_with(u'\\') || preferences.ends_with(u'/')))
+    preferences.pop_back();
+  if (preferences != former) setVariable("TESSEL_PREFDIR", preferences);
+}
+
+}  // namespace tool
