@@ -60,12 +60,10 @@ int showInternalError(const std::string& name, const std::string& text) {
   return failedInside;
 }
 
-/// Shows the failure in flight and gives the exit status for it.
-int showCaught(const std::string& name) {
+/// Shows a failure in flight that is no interrupt.
+int showFailure(const std::string& name) {
   try {
     throw;
-  } catch (const host::standalone::Interrupted& failure) {
-    return showPlain(name, failure, killedBySignal + failure.signal());
   } catch (const Korvane::TException::HostError& failure) {
     return showWithId(name, fl::i18n::to_string(failure.text()), failure.error_id());
   } catch (const foundation::core::except::IMsgIDException& failure) {
@@ -79,6 +77,14 @@ int showCaught(const std::string& name) {
   } catch (...) {
     return showInternalError(name, "unknown failure");
   }
+}
+
+/// Shows the failure in flight and gives the exit status for it.
+int showCaught(const std::string& name) {
+  // A tool that an interrupt ended fails the command in its own way; that is not what the user has to hear.
+  if (const int signal = host::standalone::pendingInterrupt(); signal != 0)
+    return showPlain(name, host::standalone::Interrupted(signal), killedBySignal + signal);
+  return showFailure(name);
 }
 
 std::vector<fl::ustring> argumentsOf(int count, char** values) {

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <charconv>
-#include <csignal>
 #include <cstdio>
 #include <optional>
 
@@ -10,6 +9,7 @@
 #include "printed_values.hpp"
 #include "program.hpp"
 #include "standalone/LoadedProducts.hpp"
+#include "standalone/interrupts.hpp"
 #include "values.hpp"
 
 namespace {
@@ -60,13 +60,6 @@ Request requestOf(const std::vector<fl::ustring>& arguments) {
   return request;
 }
 
-/// An extension does not look for a noted interrupt: from here on one ends the program.
-void letInterruptsEndTheProgram() {
-  for (const int signal : {SIGINT, SIGTERM}) {
-    if (std::signal(signal, SIG_DFL) == SIG_IGN) std::signal(signal, SIG_IGN);
-  }
-}
-
 std::vector<tool::Value> called(host::standalone::LoadedProduct& product, const Request& request) {
   std::vector<const zxArray*> inputs;
   for (const tool::Value& input : request.inputs) inputs.push_back(input.get());
@@ -99,7 +92,8 @@ void runExtension(const std::vector<fl::ustring>& arguments) {
   const Request request = requestOf(arguments);
   std::optional<tool::KeptOutput> kept;
   if (request.json) kept.emplace();
-  letInterruptsEndTheProgram();
+  // An extension does not look for a noted interrupt.
+  host::standalone::letInterruptsEndTheProgram();
   host::standalone::LoadedProducts products;
   const std::vector<tool::Value> outputs = called(products.load(request.product), request);
   const tool::NamedValues named = namedOutputs(outputs, request);

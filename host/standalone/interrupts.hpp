@@ -11,6 +11,9 @@ namespace host::standalone {
 /// failed write for the same reason. A signal that is ignored stays so.
 ZEXHOST_API void installInterruptHandlers();
 
+/// From here on an interrupt ends the program where it stands. One that is ignored stays so.
+ZEXHOST_API void letInterruptsEndTheProgram();
+
 /// The first signal that was noted, or 0. It stays noted: no further shell line starts.
 ZEXHOST_API int pendingInterrupt();
 

@@ -32,6 +32,12 @@ void installInterruptHandlers() {
   std::signal(SIGPIPE, SIG_IGN);
 }
 
+void letInterruptsEndTheProgram() {
+  for (const int signal : {SIGINT, SIGTERM}) {
+    if (std::signal(signal, SIG_DFL) == SIG_IGN) std::signal(signal, SIG_IGN);
+  }
+}
+
 int pendingInterrupt() {
   return firstNoted;
 }

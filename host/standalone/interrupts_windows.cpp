@@ -3,6 +3,7 @@
 #include <array>
 #include <atomic>
 #include <csignal>
+#include <cstddef>
 
 #include "standalone/interrupts.hpp"
 
@@ -15,13 +16,7 @@ std::atomic<int> firstNoted = 0;
 /// Holds this program and all that it starts: tools have consoles of their own, and no key reaches them there.
 HANDLE family = nullptr;
 
-/// From here on no further member can be started: the call that would fails.
-void closeFamily() {
-  JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
-  limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_ACTIVE_PROCESS;
-  limits.BasicLimitInformation.ActiveProcessLimit = 1;
-  SetInformationJobObject(family, JobObjectExtendedLimitInformation, &limits, sizeof limits);
-}
+constexpr DWORD pauseMilliseconds = 20;
 
 void endMember(DWORD number) {
   if (number == GetCurrentProcessId()) return;
@@ -32,15 +27,12 @@ void endMember(DWORD number) {
 }
 
 void endTools() {
-  constexpr std::size_t most = 1024;
-  struct {
-    JOBOBJECT_BASIC_PROCESS_ID_LIST head;
-    std::array<ULONG_PTR, most> further;
-  } list{};
-  closeFamily();
-  if (QueryInformationJobObject(family, JobObjectBasicProcessIdList, &list, sizeof list, nullptr) == 0) return;
-  for (DWORD index = 0; index < list.head.NumberOfProcessIdsInList; ++index) {
-    endMember(static_cast<DWORD>(list.head.ProcessIdList[index]));
+  constexpr std::size_t most = 8192;
+  alignas(JOBOBJECT_BASIC_PROCESS_ID_LIST) std::array<std::byte, most> room{};
+  if (QueryInformationJobObject(family, JobObjectBasicProcessIdList, room.data(), most, nullptr) == 0) return;
+  const auto* const list = reinterpret_cast<const JOBOBJECT_BASIC_PROCESS_ID_LIST*>(room.data());
+  for (DWORD index = 0; index < list->NumberOfProcessIdsInList; ++index) {
+    endMember(static_cast<DWORD>(list->ProcessIdList[index]));
   }
 }
 
@@ -49,8 +41,8 @@ BOOL WINAPI note(DWORD event) {
   if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT) return FALSE;
   int none = 0;
   firstNoted.compare_exchange_strong(none, event == CTRL_C_EVENT ? SIGINT : SIGBREAK);
-  endTools();
-  return TRUE;
+  // To the end of the program, since the driver goes on to its next command where it only asks for an answer.
+  for (;; Sleep(pauseMilliseconds)) endTools();
 }
 
 }  // namespace
@@ -59,6 +51,10 @@ void installInterruptHandlers() {
   family = CreateJobObjectW(nullptr, nullptr);
   if (family != nullptr) AssignProcessToJobObject(family, GetCurrentProcess());
   SetConsoleCtrlHandler(note, TRUE);
+}
+
+void letInterruptsEndTheProgram() {
+  SetConsoleCtrlHandler(note, FALSE);
 }
 
 int pendingInterrupt() {
