@@ -12,6 +12,20 @@ import xml.etree.ElementTree as ElementTree
 from tree import DATA
 
 ZEXOPTS = DATA / "bin/glnxa64/zexopts"
+VISUAL = "vc2022 vc2019 vc2017 vc2015".split()
+VISUALXX = "vc++2022 vc++2019 vc++2017 vc++2015".split()
+# The compilers of each architecture by language, in the order in which the driver takes them.
+PROMISED = {
+    "glnxa64": {"C": ["gcc", "clang"], "C++": ["g++", "clang++"], "CUDA": ["nvcc"], "FORTRAN": ["gfortran"]},
+    "maci64": {"C": ["clang"], "C++": ["clang++"], "FORTRAN": ["gfortran"]},
+    "win32": {"C": VISUAL, "C++": VISUALXX, "FORTRAN": ["ifort"]},
+    "win64": {
+        "C": [*VISUAL, "mingw-gcc"],
+        "C++": [*VISUALXX, "mingw-g++"],
+        "CUDA": ["nvcc"],
+        "FORTRAN": ["ifx", "ifort", "mingw-gfortran"],
+    },
+}
 # Set by the driver for each request, or gone when undefined.
 DRIVER_VARIABLES = set(
     "TESSELROOT ARCH SRC OBJ OBJS SRCROOT DEF EXP LIB EXE ILK MANIFEST TEMPNAME EXEDIR EXENAME"
@@ -38,6 +52,14 @@ class Document:
         self.vars = self.config.find("vars").attrib
         self.details = self.config.find("Details").attrib
         self.commands = [text for name, text in sorted(self.vars.items()) if name.startswith("CMDLINE")]
+        self.arch = path.parts[-3]
+        # Compilers of one system that build for another, beside those of the system itself.
+        self.cross = path.name.startswith("cross_")
+        self.posix = self.cross or not self.arch.startswith("win")
+        self.gnu = self.config.get("Manufacturer") == "GNU"
+
+    def __str__(self):
+        return f"{self.arch}/{self.path.name}"
 
 
 def shipped_documents():
@@ -48,21 +70,29 @@ def for_each_document(test):
     @functools.wraps(test)
     def run(self):
         for document in shipped_documents():
-            with self.subTest(document=document.path.name):
+            with self.subTest(document=str(document)):
                 test(self, document)
 
     return run
 
 
 class Documents(unittest.TestCase):
-    def test_the_promised_compilers_are_there_with_gcc_before_clang(self):
-        configs = [document.config.attrib for document in shipped_documents()]
-        found = sorted(f"{config['ShortName']}:{config['Language']}" for config in configs)
-        self.assertEqual(found, "clang++:C++ clang:C g++:C++ gcc:C gfortran:FORTRAN nvcc:CUDA".split())
-        self.assertEqual(len({(config["Language"], config["Name"]) for config in configs}), len(configs))
-        priority = {config["ShortName"]: config["Priority"] for config in configs}
-        self.assertLess(priority["gcc"], priority["clang"])
-        self.assertLess(priority["g++"], priority["clang++"])
+    def test_the_promised_compilers_are_there_in_their_order(self):
+        found = {}
+        for document in shipped_documents():
+            languages = found.setdefault(document.arch, {})
+            languages.setdefault(document.config.get("Language"), []).append(document)
+        for arch, promised in PROMISED.items():
+            for language, documents in found[arch].items():
+                with self.subTest(arch=arch, language=language):
+                    documents.sort(key=lambda document: document.config.get("Priority"))
+                    natives = [document for document in documents if not document.cross]
+                    self.assertEqual([native.config.get("ShortName") for native in natives], promised[language])
+                    # Those of another system come behind.
+                    self.assertEqual(documents[: len(natives)], natives)
+                    for key in ("Name", "ShortName", "Priority"):
+                        self.assertEqual(len({document.config.get(key) for document in documents}), len(documents), key)
+            self.assertEqual(set(found[arch]), set(promised))
 
     @for_each_document
     def test_an_attribute_is_one_line(self, document):
@@ -94,18 +124,38 @@ class Documents(unittest.TestCase):
 
     @for_each_document
     def test_commands_come_in_order_and_flags_of_a_user_win(self, document):
-        folder, compile_, link = document.commands
-        self.assertIn("$DEF", folder)
-        self.assertRegex(compile_, r"^\$COMPILER -c .* \$SRC -o \$OBJ$")
-        self.assertRegex(link, r"^\$LINKER -o \$EXE .*\$OBJS.* \$USERLIBS")
-        self.assertNotRegex(folder + compile_ + link, r"\brm |[;|#<>]|&&")
+        (compile_,) = [text for text in document.commands if "$SRC" in text]
+        (link,) = [text for text in document.commands if "$EXE" in text]
+        self.assertIn("$DEF", document.commands[0])
+        self.assertLess(document.commands.index(compile_), document.commands.index(link))
+        switch, object_, product = ("-c", "-o ", "-o ") if document.gnu else ("/c", "/Fo", "/out:")
+        self.assertRegex(compile_, rf"^\$COMPILER {switch} .* \$SRC {object_}\$OBJ$")
+        self.assertRegex(link, rf"^\$LINKER {product}\$EXE .*\$OBJS.* \$USERLIBS")
+        self.assertNotRegex(compile_ + link, r"[;|#<>&^]")
+        self.assertNotRegex("\n".join(document.commands), r"\b(rm|del) ")
         self.assertLess(compile_.index("$OPTIM"), compile_.index(document.details["CompilerFlags"]))
+
+    @for_each_document
+    def test_products_have_the_extensions_of_their_system(self, document):
+        product, library, program = {
+            "glnxa64": (".zexa64", ".so", ""),
+            "maci64": (".zexmaci64", ".dylib", ""),
+            "win32": (".zexw32", ".dll", ".exe"),
+            "win64": (".zexw64", ".dll", ".exe"),
+        }[document.arch]
+        self.assertEqual(document.vars["LDEXT"], product)
+        clients = {client.tag: client.get("LDEXT") for client in document.config.iterfind("client/*")}
+        expected = {"ENGINE": program, "ZBUILD": library, "ZBUILD_COM": library}
+        self.assertIn(clients, (expected, {}))
+        self.assertTrue(clients or document.cross or document.config.get("Language") not in ("C", "C++"))
 
     @for_each_document
     def test_shell_functions_read_response_files(self, document):
         """A compiler that cannot take such a file as it is gets what the shell makes of its text."""
         compiler = document.vars["COMPILER"]
-        self.assertEqual("()" in compiler, document.config.get("Name") in ("gfortran", "nvcc"))
+        if not document.cross:
+            expected = document.posix and document.config.get("Name") in ("gfortran", "nvcc")
+            self.assertEqual("()" in compiler, expected)
         if "()" not in compiler:
             return
         arguments = """-c -DT='"x y"' -J"$(dirname "/tmp/p q/o.o")" "/tmp/p (q) & r/ä.f90" -o /tmp/o.o"""
@@ -115,7 +165,7 @@ class Documents(unittest.TestCase):
             tool.chmod(0o755)
             file = pathlib.Path(folder, "zex_temp.rsp")
             file.write_text(" " + arguments)
-            compiler = compiler.replace("$TESSELROOT", "/opt/t (x) & y").replace("$ARCH", "glnxa64")
+            compiler = compiler.replace("$TESSELROOT", "/opt/t (x) & y").replace("$ARCH", document.arch)
             compiler = REFERENCE.sub(str(tool), compiler)
             direct, through_file = (
                 subprocess.run(["sh", "-c", line], stdout=subprocess.PIPE, check=True, text=True).stdout
@@ -128,11 +178,12 @@ class Documents(unittest.TestCase):
     @for_each_document
     def test_finders_try_cheap_tests_first_and_name_a_remedy(self, document):
         for variable in document.config.find("locationFinder"):
-            group = variable.find("or")
-            self.assertRegex(group.get("diagnostic"), r"not found.*(Install|apt install)")
-            kinds = [test.tag for test in group]
-            self.assertEqual(kinds, sorted(kinds, key=lambda kind: kind == "cmdReturns"))
-            for command in group.iter("cmdReturns"):
+            (group,) = variable
+            self.assertRegex(group.get("diagnostic"), r"not found.*([Ii]nstall)")
+            for choice in variable.iter("or"):
+                runs = [next(test.iter("cmdReturns"), None) is not None for test in choice]
+                self.assertEqual(runs, sorted(runs))
+            for command in variable.iter("cmdReturns"):
                 # The driver tidies a command as if it were a path.
                 self.assertNotRegex(command.get("name"), r"//|\\\\|\.\.|[;|]|&&")
 

@@ -1,0 +1,145 @@
+"""What each shipped document makes of a few requests, compared with commands/ARCH.txt.
+
+`commands_test.py ZEX --rewrite`, with the staged program, writes these files anew: read what changed in them.
+Nothing is run but the driver, with -n. The finder of a document is replaced by one that "finds" fixed folders, so the
+commands of compilers that this machine cannot have are seen as well.
+"""
+
+import pathlib
+import re
+import subprocess
+import sys
+import unittest
+
+from documents_test import PROMISED, REFERENCE, shipped_documents
+from tree import ROOT, ToolTest
+
+EXPECTED = ROOT / "tests/installation/commands"
+SOURCES = {"C": "a.c", "C++": "a.cpp", "CUDA": "a.cu", "FORTRAN": "a.f90"}
+REQUESTS = ("-DNAME=1 -Iinc -Lfolder -lfoo {}", "-g {}", "-c {}", "-client ENGINE {}")
+# The same in nearly every build: shown for the first request.
+ALWAYS = re.compile("^mkdir |^for |/extern/version/")
+# Compilers that are not there have no version, and Fortran has a default to warn of.
+WARNINGS = r"(zex: warning: .*\[TESSEL:zex:(MinGWVersion|FortranLargeArrayDimsWarn)\]\n)*"
+SET_ENV = re.compile(r'''TESSEL:zex:SetEnv\("(\w+)", "(.*)"\)''')
+FINDER = re.compile("<locationFinder>.*</locationFinder>", re.DOTALL)
+
+PATH = "/usr/bin:/bin"
+ZEX = ""
+REWRITE = False
+
+
+def found(document, variable):
+    """What the finder of the copy answers, with a blank in it."""
+    if "VERSION" in variable:
+        return "1.2.3"
+    return f"/opt/the tools/{variable.lower()}" if document.posix else rf"C:\the tools\{variable.lower()}"
+
+
+class Commands(ToolTest):
+    def setUp(self):
+        super().setUp()
+        self.folder = self.folder.resolve()
+        for name in ("tmp", "preferences"):
+            (self.folder / name).mkdir()
+        for name in SOURCES.values():
+            (self.folder / name).touch()
+
+    def zex(self, environment, *arguments):
+        own = {"PATH": PATH, "TMPDIR": f"{self.folder}/tmp", "TESSEL_LOCALE": "id"}
+        own["TESSEL_PREFDIR"] = f"{self.folder}/preferences"
+        command = [ZEX, *arguments]
+        pipe = subprocess.PIPE
+        return subprocess.run(command, cwd=self.folder, env={**own, **environment}, stdout=pipe, stderr=pipe, text=True)
+
+    def commands(self, document, request):
+        finder = document.config.find("locationFinder")
+        fakes = {f"FAKE_{child.tag}": found(document, child.tag) for child in finder}
+        tests = "".join(f'<{child.tag}><envVarExists name="FAKE_{child.tag}" /></{child.tag}>' for child in finder)
+        copy = self.folder / "copy.xml"
+        copy.write_text(FINDER.sub(f"<locationFinder>{tests}</locationFinder>", document.text), encoding="utf-8")
+
+        result = self.zex(fakes, f"-{document.arch}", "-n", "-v", "-silent", "-f", str(copy), *request.split())
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertTrue(re.fullmatch(WARNINGS, result.stderr), result.stderr)
+        text = result.stdout.replace(str(pathlib.Path(ZEX).parents[2]), "<TREE>")
+        text = re.sub(re.escape(f"{self.folder}/tmp/") + r"""[^/\\\s"']+""", "<TEMP>", text)
+        text = text.replace(str(self.folder), "<WORK>")
+        environment = [f"{name}={value}" for name, value in SET_ENV.findall(text)]
+        environment = [line.replace(r"\\", "\\").removesuffix(f":{PATH}") for line in environment]
+        # The commands stand behind the ruled table of the document.
+        return environment, re.split("\n-+\n", text)[-1].splitlines()
+
+    def check_kinds(self, document, commands, products):
+        """The driver tells a compile and a link by these marks, and looks for the file that follows them."""
+        compile_mark, link_mark = ("-c", "-o ") if document.gnu else ("/Fo", "/out:")
+        compiles = [compile_mark in command for command in commands]
+        self.assertEqual(compiles, [bool(re.search("<WORK>/a[.]|<TREE>/extern/version/", c)) for c in commands])
+        parts = [command.partition(link_mark) for command, is_compile in zip(commands, compiles) if not is_compile]
+        self.assertEqual([file.split()[0] for _, mark, file in parts if mark], products)
+        if not document.gnu:
+            for command in (command for command, is_compile in zip(commands, compiles) if is_compile):
+                self.assertRegex(command, r" /Fo(<TEMP>/)?\w+\.obj( |$)")
+
+    def check_shell(self, document, command):
+        self.assertNotRegex(command, REFERENCE)
+        if document.posix:
+            self.assertEqual(subprocess.run(["sh", "-n", "-c", command]).returncode, 0, command)
+            return
+        # cmd.exe runs it within parentheses of the driver's.
+        self.assertEqual(command.count('"') % 2, 0, command)
+        bare = re.sub('"[^"]*"|<[A-Z]+>', "", command)
+        self.assertNotRegex(re.sub(r"\([^()]*\)", "", bare), "[()|<>&^]", command)
+
+    def blocks(self, document):
+        source = SOURCES[document.config.get("Language")]
+        clients = {client.tag: client.get("LDEXT") for client in document.config.iterfind("client/*")}
+        for index, request in enumerate(REQUESTS):
+            if "ENGINE" in request and "ENGINE" not in clients:
+                continue
+            environment, commands = self.commands(document, request.format(source))
+            extension = clients["ENGINE"] if "ENGINE" in request else document.vars["LDEXT"]
+            self.check_kinds(document, commands, [] if "-c " in request else [f"a{extension}"])
+            for command in commands:
+                self.check_shell(document, command)
+            shown = [*environment, *commands] if index == 0 else [c for c in commands if not ALWAYS.search(c)]
+            yield "\n".join([f"$ zex -{document.arch} {request.format(source)}", *shown])
+
+    def test_requests_become_these_commands(self):
+        for arch in PROMISED:
+            names_by_text = {}
+            for document in shipped_documents():
+                if document.arch == arch:
+                    with self.subTest(document=str(document)):
+                        text = "\n\n".join(self.blocks(document))
+                        # What other systems offer depends on what is built for them; its form is checked above.
+                        if not document.cross:
+                            names_by_text.setdefault(text, []).append(document.path.name)
+            text = "\n\n\n".join(f"# {' '.join(names)}\n\n{text}" for text, names in names_by_text.items()) + "\n"
+            file = EXPECTED / f"{arch}.txt"
+            if REWRITE:
+                file.write_text(text, encoding="utf-8")
+            with self.subTest(file=file.name):
+                self.assertEqual(text.split("\n"), file.read_text(encoding="utf-8").split("\n"))
+
+    def test_finders_run_nothing_on_another_system(self):
+        """They are evaluated wherever somebody asks for the compilers of that system."""
+        for arch in ("maci64", "win32", "win64"):
+            natives = {d.config.get("Name") for d in shipped_documents() if d.arch == arch and not d.cross}
+            for language in PROMISED[arch]:
+                result = self.zex({}, "-v", f"-{arch}", "-setup", language.lower())
+                self.assertRegex(result.stderr, r"\A(zex: .*\n)*\Z")
+                for search in result.stdout.split("TESSEL:zex:LookingCompiler")[1:]:
+                    name = search.split('"')[1]
+                    with self.subTest(arch=arch, compiler=name):
+                        if name in natives:
+                            natives.remove(name)
+                            self.assertIn("TESSEL:zex:NotInstalledCompiler", search)
+                            self.assertNotIn("TESSEL:zex:ExecutingCmd", search)
+            self.assertEqual(natives, set())
+
+
+if __name__ == "__main__":
+    ZEX = str(pathlib.Path(sys.argv.pop(1)).resolve())
+    REWRITE = "--rewrite" in sys.argv
+    unittest.main(argv=[argument for argument in sys.argv if argument != "--rewrite"])
