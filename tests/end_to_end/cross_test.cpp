@@ -1,4 +1,5 @@
 #include <regex>
+#include <set>
 
 #include "end_to_end/EndToEnd.hpp"
 
@@ -30,16 +31,25 @@ class Cross : public EndToEnd {
     return has;
   }
 
-  /// What the entry point of a product of the current folder stores or throws. One call at a time, since the first
-  /// makes the folder; Wine's server, which outlives the call, must not keep the lock.
-  std::string answer(const std::string& product) const {
+  /// One call at a time, since the first makes the folder; Wine's server, which outlives the call, must not keep
+  /// the lock.
+  Outcome underWine(const std::string& program, const std::string& arguments) const {
     fs::create_directories(ZEX_WINE_FOLDER);
     const std::string environment = "WINEPREFIX='" ZEX_WINE_FOLDER
                                     "' WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='"
-                                    " LC_ALL=C.UTF-8 ";
-    return shell(environment + "flock -o '" ZEX_WINE_FOLDER ".lock' wine '" ZEX_WINDOWS_LOADER "' '" + product +
-                 "'")
-        .out;
+                                    " LC_ALL=C.UTF-8 TMPDIR= ";
+    return shell(environment + "flock -o '" ZEX_WINE_FOLDER ".lock' wine '" + program + "' " + arguments);
+  }
+
+  /// What the entry point of a product of the current folder stores or throws.
+  std::string answer(const std::string& product) const {
+    return underWine(ZEX_WINDOWS_LOADER, "'" + product + "'").out;
+  }
+
+  /// The programs of the tree for Windows, which another preset builds; empty where it was not.
+  static fs::path windowsPrograms() {
+    const fs::path folder = ZEX_WINDOWS_TREE "/bin/win64";
+    return hasWine() && fs::exists(folder / "zexrun.exe") ? folder : fs::path();
   }
 
   /// All that a pattern with one group finds in the headers of a product.
@@ -166,6 +176,50 @@ TEST_F(Cross, LongCommandsGoThroughResponseFiles) {
       EXPECT_EQ(answer(row.product), row.answer);
     }
   }
+}
+
+TEST_F(Cross, ProductsRunInTheTreeForWindowsAsInThisOne) {
+  if (windowsPrograms().empty()) GTEST_SKIP() << "there is no Wine, or no tree for Windows at " ZEX_WINDOWS_TREE;
+  const fs::path examples = ZEX_TREE "/extern/examples";
+  fs::copy(examples / "filter.c", work);
+  fs::copy(examples / "product.cpp", work);
+  write("halve.f90",
+        "include 'zex_fortran.f90'\n"
+        "subroutine zexfunction(nlhs, plhs, nrhs, prhs)\n use zex\n implicit none\n"
+        " integer(zx_index), intent(in) :: nlhs, nrhs\n type(zx_array), intent(inout) :: plhs(*)\n"
+        " type(zx_array), intent(in) :: prhs(nrhs)\n"
+        " if (nrhs /= 1) call zex_fail('halve:inputs', 'é')\n call zex_print('halving')\n"
+        " plhs(1) = zx_make_real(zx_number(prhs(1)) / 2)\nend subroutine\n");
+  struct {
+    std::string source, arguments;
+  } const rows[] = {
+      {"filter.c", "\"[0.5 0.5]\" \"[1; 2; 4; 8]\""},
+      {"filter.c -R2018a", "\"[0.5 0.5]\" \"[1; 2; 4; 8]\""},
+      {"filter.c -compatibleArrayDims", "1"},  // fails
+      {"product.cpp", "\"[1 2; 3 4]\" \"[5; 6]\""},
+      {"halve.f90", "3"},
+      {"halve.f90", ""},  // fails
+  };
+  for (const auto& row : rows) {
+    build(row.source + " -output here", {"here.zexa64"});
+    build("-win64 " + row.source + " -output there", {"there.zexw64"});
+    const Outcome here = zexrun("here.zexa64 " + row.arguments);
+    const Outcome there = underWine(windowsPrograms() / "zexrun.exe", "there.zexw64 " + row.arguments);
+    EXPECT_EQ(here.status, there.status) << row.source;
+    EXPECT_EQ(here.out, std::regex_replace(there.out, std::regex("\r"), "")) << row.source << there.err;
+    EXPECT_EQ(here.err.empty(), there.err.empty()) << row.source << there.err;
+    fs::remove("here.zexa64");
+    fs::remove("there.zexw64");
+  }
+}
+
+TEST_F(Cross, TheNamesForTheLinkerAreThoseOfTheLibraryForWindows) {
+  if (windowsPrograms().empty()) GTEST_SKIP() << "there is no Wine, or no tree for Windows at " ZEX_WINDOWS_TREE;
+  const Names shown = exportsOf(windowsPrograms() / "libzx.dll");
+  const std::string told = contentOf(ZEX_TREE "/extern/lib/win64/libzx.def");
+  std::string expected = "LIBRARY libzx.dll\nEXPORTS\n";
+  for (const std::string& name : std::set<std::string>(shown.begin(), shown.end())) expected += "  " + name + "\n";
+  EXPECT_EQ(told, expected);
 }
 
 TEST_F(Cross, ClientsGetAProgramOrAPlainLibrary) {
