@@ -40,6 +40,14 @@ TEST_F(WindowsBuilds, ProductsOfRealCompilersAreLoaded) {
   EXPECT_EQ(built("value.o -cxx", "value.zexw64"), 43);
 }
 
+TEST_F(WindowsBuilds, FailuresOfACompilerAreItsOwnWords) {
+  bring("broken.c", "broken.c");
+  bring("value.c", "value.c");
+  EXPECT_THAT(zex("broken.c").err, HasSubstr("broken.c:1:9: error: "));
+  EXPECT_THAT(zex("value.c -lmissing").err, HasSubstr("cannot find -lmissing"));
+  EXPECT_FALSE(fs::exists("value.zexw64"));
+}
+
 TEST_F(WindowsBuilds, PathsOfEveryForm) {
   bring("value.c", "value.c");
   const std::string drive = work.root_name().string();

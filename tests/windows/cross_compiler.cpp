@@ -49,11 +49,15 @@ std::string translated(const std::wstring& argument) {
   return argument.starts_with(L"-") || !looksLikePath(argument) ? utf8(argument) : unixPath(argument);
 }
 
+std::string contentOf(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
 /// The arguments in a response file: blanks part them, double quotes hold them together, a backslash keeps the
 /// next character.
 std::vector<std::wstring> argumentsIn(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+  const std::string bytes = contentOf(file);
   std::wstring text(bytes.size(), L'\0');
   text.resize(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, bytes.data(), static_cast<int>(bytes.size()),
                                                            text.data(), static_cast<int>(text.size()))));
@@ -104,6 +108,9 @@ int run(const std::vector<std::wstring>& words) {
       script += " " + quotedForShell(translated(inner));
   }
   const fs::path status = folder / "status";
+  // Wine gives its standard error to such a program, and not that of this one.
+  const fs::path errors = folder / "errors";
+  script += " 2> " + quotedForShell(unixPath(errors.native()));
   script += "\necho $? > " + quotedForShell(unixPath(status.native())) + "\n";
   const fs::path file = folder / "script";
   std::ofstream(file, std::ios::binary) << script;
@@ -120,6 +127,7 @@ int run(const std::vector<std::wstring>& words) {
                      &process) == 0)
     throw std::runtime_error("the shell below cannot be started");
   const int result = statusIn(status);
+  std::fputs(contentOf(errors).c_str(), stderr);
   fs::remove_all(folder);
   return result;
 }
