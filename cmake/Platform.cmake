@@ -20,6 +20,13 @@ endif()
 set(ZEX_TREE ${CMAKE_BINARY_DIR}/tessel)
 set(ZEX_TREE_BIN ${ZEX_TREE}/bin/${ZEX_ARCH})
 
+# How a loader is told to look beside what it loads.
+if(APPLE)
+  set(ZEX_BESIDE_ITSELF "@loader_path")
+else()
+  set(ZEX_BESIDE_ITSELF "$ORIGIN")
+endif()
+
 # Builds a library straight into the tree, found there by what lies beside it. Import libraries of DLLs go to the build
 # folder.
 function(zex_library_in_tree target)
@@ -29,7 +36,7 @@ function(zex_library_in_tree target)
                RUNTIME_OUTPUT_DIRECTORY ${ZEX_TREE_BIN}
                ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib
                BUILD_RPATH_USE_ORIGIN ON
-               INSTALL_RPATH "$ORIGIN")
+               INSTALL_RPATH "${ZEX_BESIDE_ITSELF}")
 endfunction()
 
 # Drops from a list of sources those whose name ends in the suffix of another platform.

@@ -24,7 +24,7 @@ bool KeptOutput::write(const std::string& text) const {
   std::string_view rest = text;
   while (!rest.empty()) {
     const int count = _write(kept_, rest.data(), static_cast<unsigned>(std::min(rest.size(), longestWrite)));
-    if (count < 0) return false;
+    if (count <= 0) return false;
     rest.remove_prefix(static_cast<std::size_t>(count));
   }
   return true;

@@ -11,16 +11,16 @@ namespace tool {
 namespace {
 
 struct Column {
-  const char* heading;
+  const char16_t* heading;
   const char16_t* key;
 };
 
 constexpr Column columns[] = {
-    {"NAME", u"Name"},       {"LANGUAGE", u"Language"}, {"SHORT NAME", u"ShortName"},
-    {"VERSION", u"Version"}, {"LOCATION", u"Location"}, {"OPTIONS", u"ZexOpt"},
+    {u"NAME", u"Name"},       {u"LANGUAGE", u"Language"}, {u"SHORT NAME", u"ShortName"},
+    {u"VERSION", u"Version"}, {u"LOCATION", u"Location"}, {u"OPTIONS", u"ZexOpt"},
 };
 
-using Row = std::array<std::string, std::size(columns)>;
+using Row = std::array<fl::ustring, std::size(columns)>;
 
 Row headings() {
   Row row;
@@ -34,24 +34,25 @@ Row rowOf(const zex_cmd::CompilerRecord& record) {
   std::transform(std::begin(columns), std::end(columns), row.begin(), [&](const Column& column) {
     const auto entry = record.find(column.key);
     const bool present = entry != record.end() && !entry->second.empty();
-    return present ? fl::i18n::to_string(entry->second) : std::string("-");
+    return present ? entry->second : fl::ustring(u"-");
   });
   return row;
 }
 
-/// Characters of a UTF-8 text: what counts for the alignment.
-std::size_t width(const std::string& text) {
+/// Characters: what counts for the alignment. Some take two units.
+std::size_t width(const fl::ustring& text) {
   return static_cast<std::size_t>(
-      std::count_if(text.begin(), text.end(), [](char byte) { return (byte & 0xC0) != 0x80; }));
+      std::count_if(text.begin(), text.end(), [](char16_t unit) { return (unit & 0xFC00) != 0xDC00; }));
 }
 
 }  // namespace
 
 std::string jsonOf(const std::vector<zex_cmd::CompilerRecord>& records) {
+  const fl::i18n::codecvt_ustring_to_string utf8("UTF-8");
   boost::json::array list;
   for (const auto& record : records) {
     boost::json::object object;
-    for (const auto& [key, value] : record) object[fl::i18n::to_string(key)] = fl::i18n::to_string(value);
+    for (const auto& [key, value] : record) object[utf8(key)] = utf8(value);
     list.push_back(std::move(object));
   }
   return boost::json::serialize(list) + "\n";
@@ -68,14 +69,14 @@ std::string tableOf(const std::vector<zex_cmd::CompilerRecord>& records) {
       widths[index] = std::max(widths[index], width(row[index]));
     }
   }
-  std::string table;
+  fl::ustring table;
   for (const Row& row : rows) {
     for (std::size_t index = 0; index + 1 < row.size(); ++index) {
-      table += row[index] + std::string(widths[index] - width(row[index]) + 2, ' ');
+      table += row[index] + fl::ustring(widths[index] - width(row[index]) + 2, u' ');
     }
-    table += row.back() + "\n";
+    table += row.back() + u"\n";
   }
-  return table;
+  return fl::i18n::to_string(table);
 }
 
 }  // namespace tool

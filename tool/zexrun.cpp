@@ -6,11 +6,13 @@
 #include "KeptOutput.hpp"
 #include "fl/i18n/strings.hpp"
 #include "korvane/TException.hpp"
+#include "output_text.hpp"
 #include "printed_values.hpp"
 #include "program.hpp"
 #include "standalone/LoadedProducts.hpp"
 #include "standalone/interrupts.hpp"
 #include "values.hpp"
+#include "zx/runtime.hpp"
 
 namespace {
 
@@ -53,11 +55,16 @@ Request requestOf(const std::vector<fl::ustring>& arguments) {
     } else if (request.product.empty()) {
       request.product = *word;
     } else {
-      request.inputs.push_back(tool::parsedValue(fl::i18n::to_string(*word)));
+      request.inputs.push_back(tool::parsedValue(fl::i18n::codecvt_ustring_to_string("UTF-8")(*word)));
     }
   }
   if (request.product.empty()) throw tool::UsageError(usage);
   return request;
+}
+
+void writeOfExtension(const char* text, std::size_t length) {
+  const std::string output = tool::outputText({text, length});
+  std::fwrite(output.data(), 1, output.size(), stdout);
 }
 
 std::vector<tool::Value> called(host::standalone::LoadedProduct& product, const Request& request) {
@@ -94,11 +101,12 @@ void runExtension(const std::vector<fl::ustring>& arguments) {
   if (request.json) kept.emplace();
   // An extension does not look for a noted interrupt.
   host::standalone::letInterruptsEndTheProgram();
+  zxSetWriter(writeOfExtension);
   host::standalone::LoadedProducts products;
   const std::vector<tool::Value> outputs = called(products.load(request.product), request);
   const tool::NamedValues named = namedOutputs(outputs, request);
   if (!kept) {
-    std::fputs(tool::printed(named).c_str(), stdout);
+    std::fputs(tool::outputText(tool::printed(named)).c_str(), stdout);
   } else if (!kept->write(tool::jsonOf(named))) {
     throw Korvane::TException::HostError("TESSEL:zexrun:OutputNotWritten", u"Cannot write to standard output.");
   }

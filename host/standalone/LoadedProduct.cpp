@@ -8,6 +8,7 @@
 #include "korvane/TException.hpp"
 #include "standalone/SharedLibrary.hpp"
 #include "standalone/interface_check.hpp"
+#include "standalone/utf.hpp"
 
 namespace host::standalone {
 
@@ -103,7 +104,7 @@ void LoadedProduct::call(int nlhs, zxArray* plhs[], int nrhs, const zxArray* prh
   if (!isLoaded()) refuse("TESSEL:host:ProductNotLoaded", u"'" + path_ + u"' is not loaded.");
   const Lock lock(*this);
   const zxFailure* const failure = std::visit(Caller{nlhs, plhs, nrhs, prhs}, entry_);
-  if (failure != nullptr) refuse(failure->identifier, fl::i18n::to_ustring(failure->message));
+  if (failure != nullptr) refuse(failure->identifier, fromUtf8(failure->message));
 }
 
 void LoadedProduct::unlock() {

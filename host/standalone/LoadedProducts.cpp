@@ -1,18 +1,15 @@
 #include "standalone/LoadedProducts.hpp"
 
 #include <algorithm>
-#include <filesystem>
 
-#include "fl/filesystem/operations.hpp"
 #include "fl/filesystem/path_names.hpp"
-#include "standalone/native_path.hpp"
+#include "standalone/separators.hpp"
 
 namespace host::standalone {
 
 LoadedProduct& LoadedProducts::load(const fl::ustring& path) {
   // Products are told apart by their paths as text: each has to have one alone, also behind "./" and "..".
-  const std::filesystem::path normal = nativePath(fl::filesystem::absolute(path)).lexically_normal();
-  LoadedProduct& product = known(fl::filesystem::detail::make_native_form(pathText(normal)));
+  LoadedProduct& product = known(fl::filesystem::detail::make_native_form(wholePath(path)));
   product.load();
   return product;
 }

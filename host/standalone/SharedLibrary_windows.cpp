@@ -13,7 +13,8 @@ SharedLibrary::SharedLibrary(const fl::ustring& path)
     // What the product itself needs is looked for beside it too.
     : handle_(LoadLibraryExW(wide(path), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH)) {
   if (handle_ == nullptr) {
-    throw std::runtime_error(std::system_category().message(static_cast<int>(GetLastError())));
+    const auto reason = static_cast<int>(GetLastError());
+    throw std::runtime_error(std::system_category().message(reason) + " (" + std::to_string(reason) + ")");
   }
 }
 

@@ -10,6 +10,7 @@
 #include "fl/i18n/environment.hpp"
 #include "fl/i18n/strings.hpp"
 #include "standalone/host_functions.hpp"
+#include "standalone/interrupts.hpp"
 #include "standalone/locale_name.hpp"
 #include "standalone/places.hpp"
 #include "standalone/separators.hpp"
@@ -71,6 +72,10 @@ fl::ustring StandaloneServices::preferencesFolder(bool create) const {
 
 std::string StandaloneServices::locale() const {
   return localeOfEnvironment();
+}
+
+void StandaloneServices::stopIfInterrupted() {
+  if (const int signal = pendingInterrupt(); signal != 0) throw Interrupted(signal);
 }
 
 zxArray* StandaloneServices::callFunction(const std::string& name, int outputCount, zxArray* outputs[],

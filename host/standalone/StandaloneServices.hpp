@@ -32,6 +32,9 @@ class ZEXHOST_API StandaloneServices : public Services {
   /// Interrupted where installInterruptHandlers was called and a signal was noted before or during the line.
   ShellResult runShellLine(const fl::ustring& line, bool calledFromHost) override;
 
+  /// Raises Interrupted where installInterruptHandlers was called and an interrupt was noted.
+  void stopIfInterrupted() override;
+
   /// Knows "getfield" and "zl", by which an Ada source is built.
   zxArray* callFunction(const std::string& name, int outputCount, zxArray* outputs[], int inputCount,
                         zxArray* inputs[]) override;

@@ -22,8 +22,11 @@ bool setenv(const std::string& name, const ustring& value) {
   if (name.find('\0') != std::string::npos || value.find(u'\0') != ustring::npos) return false;
   if (name.empty() || name.find('=') != std::string::npos) return false;
   const ustring wideName = to_ustring(name);
+  const wchar_t* const key = host::standalone::wide(wideName);
   // Through the C library, which tells the system and also keeps a copy of its own.
-  return _wputenv_s(host::standalone::wide(wideName), host::standalone::wide(value)) == 0;
+  if (_wputenv_s(key, host::standalone::wide(value)) != 0) return false;
+  // It takes an empty value for the wish to remove the variable.
+  return !value.empty() || SetEnvironmentVariableW(key, L"") != 0;
 }
 
 }  // namespace fl::i18n

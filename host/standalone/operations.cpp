@@ -6,6 +6,7 @@
 #include "host/Services.hpp"
 #include "standalone/file_failures.hpp"
 #include "standalone/native_path.hpp"
+#include "standalone/remove_tree.hpp"
 #include "standalone/separators.hpp"
 
 namespace fl::filesystem {
@@ -44,6 +45,12 @@ file_status statusBy(const ustring& path, Look look) {
   return file_status(typeOf(look(*native, ignored)));
 }
 
+/// A drive that is not there is told in odd words.
+bool hasRoot(const ustring& path) {
+  const ustring root = path.substr(0, host::standalone::rootLength(path));
+  return root.empty() || exists(root);
+}
+
 }  // namespace
 
 bool exists(const ustring& path) {
@@ -70,7 +77,7 @@ ustring canonical(const ustring& path) {
 ustring absolute(const ustring& path, const ustring& base) {
   if (host::standalone::isAbsolute(path)) return path;
   // Half a root: a drive and its own current folder, or the root of the current drive.
-  if (host::standalone::rootLength(path) > 0) return pathText(fs::absolute(nativePath(path)));
+  if (host::standalone::rootLength(path) > 0) return host::standalone::wholePath(path);
   return detail::concatenate_pathname(base.empty() ? get_current_path() : absolute(base), path);
 }
 
@@ -79,6 +86,7 @@ bool create_directories(const ustring& path) {
   const bool made = fs::create_directories(nativePath(path), reason);
   // A dangling link in the way is told as something that exists.
   if (reason == std::errc::file_exists) reason = std::make_error_code(std::errc::not_a_directory);
+  if (reason && !hasRoot(path)) reason = std::make_error_code(std::errc::no_such_file_or_directory);
   if (reason) raiseFileFailure(path, reason);
   return made;
 }
@@ -92,7 +100,7 @@ bool remove(const ustring& path) {
 
 std::uintmax_t remove_all(const ustring& path) {
   std::error_code reason;
-  const std::uintmax_t removed = fs::remove_all(nativePath(path), reason);
+  const std::uintmax_t removed = host::standalone::removeTree(nativePath(path), reason);
   if (reason) raiseFileFailure(path, reason);
   return removed;
 }

@@ -1,4 +1,6 @@
+#include "fl/filesystem/operations.hpp"
 #include "fl/filesystem/path_names.hpp"
+#include "standalone/native_path.hpp"
 #include "standalone/separators.hpp"
 
 namespace fl::filesystem {
@@ -19,6 +21,10 @@ bool isSeparator(char16_t unit) {
 
 std::size_t rootLength(fl::ustring_view path) {
   return path.starts_with(u'/') ? 1 : 0;
+}
+
+fl::ustring wholePath(const fl::ustring& path) {
+  return pathText(nativePath(fl::filesystem::absolute(path)).lexically_normal());
 }
 
 bool isAbsolute(fl::ustring_view path) {

@@ -1,7 +1,10 @@
+#include <windows.h>
+
 #include <algorithm>
 
 #include "fl/filesystem/path_names.hpp"
 #include "standalone/separators.hpp"
+#include "standalone/wide.hpp"
 
 namespace fl::filesystem {
 
@@ -53,6 +56,13 @@ std::size_t rootLength(fl::ustring_view path) {
   if (isNetworkPath(path)) return networkRootLength(path);
   const std::size_t afterDrive = hasDrive(path) ? 2 : 0;
   return afterDrive + (isSeparatorAt(path, afterDrive) ? 1 : 0);
+}
+
+fl::ustring wholePath(const fl::ustring& path) {
+  std::wstring whole(GetFullPathNameW(wide(path), 0, nullptr, nullptr), L'\0');
+  // Without its end mark.
+  whole.resize(GetFullPathNameW(wide(path), static_cast<DWORD>(whole.size()), whole.data(), nullptr));
+  return whole.empty() ? path : fromWide(whole);
 }
 
 bool isAbsolute(fl::ustring_view path) {

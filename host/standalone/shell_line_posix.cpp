@@ -138,15 +138,11 @@ int reap(pid_t child) {
   return WIFSIGNALED(status) ? statusAfterDeathBy(WTERMSIG(status)) : WEXITSTATUS(status);
 }
 
-void stopIfInterrupted() {
-  if (const int signal = pendingInterrupt(); signal != 0) throw Interrupted(signal);
-}
-
 /// Starts the line and sees it through; the status is the shell's, or the system's error number.
-ShellResult run(std::string line) {
+ShellResult run(StandaloneServices& services, std::string line) {
   SignalForwarding forwarding;
   // Looked at after the handlers stand: what comes later is forwarded.
-  stopIfInterrupted();
+  services.stopIfInterrupted();
 
   const CaptureFile output;
   if (output.error() != 0) return withoutText(output.error());
@@ -183,7 +179,7 @@ ShellResult StandaloneServices::runShellLine(const fl::ustring& line, bool /*cal
   static std::mutex oneAtATime;
   const std::lock_guard lock(oneAtATime);
   std::fflush(stdout);
-  const ShellResult result = run(std::move(*bytes));
+  const ShellResult result = run(*this, std::move(*bytes));
   // A line that an interrupt ended must not pass for one that failed by itself.
   stopIfInterrupted();
   return result;

@@ -1,14 +1,16 @@
 #include "fl/filesystem/streams.hpp"
 
 #include "fl/filesystem/operations.hpp"
+#include "fl/i18n/strings.hpp"
 #include "standalone/native_path.hpp"
 
 namespace fl::filesystem {
 
 using host::standalone::nativePathIfAny;
+using host::standalone::pathText;
 
 std::string native_access_form(const ustring& path) {
-  return host::standalone::nativePath(path).string();
+  return i18n::to_string(pathText(host::standalone::nativePath(path)));
 }
 
 basic_ifstream::basic_ifstream(const ustring& path, std::ios_base::openmode mode) {

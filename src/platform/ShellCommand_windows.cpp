@@ -3,6 +3,7 @@
 #include "build/temporary/ZexTempFile.hpp"
 #include "fl/filesystem/operations.hpp"
 #include "fl/i18n/environment.hpp"
+#include "host/Services.hpp"
 #include "platform/ShellCommand.hpp"
 #include "platform/captured_text.hpp"
 #include "platform/quoting.hpp"
@@ -55,7 +56,10 @@ std::int32_t runShellCommand(const ustring& text, ustring& standardOutput, ustri
   const ustring line =
       u"( " + text + u" ) > " + quoteWhenNeeded(output.path()) + u" 2> " + quoteWhenNeeded(errors.path());
 
+  host::services().stopIfInterrupted();
   const std::int32_t result = runProcess(shellProgram() + u" /c " + enteringNetworkFolder() + line);
+  // A tool that an interrupt ended must not pass for one that failed by itself.
+  host::services().stopIfInterrupted();
   standardOutput = capturedText(output.path());
   standardError = capturedText(errors.path());
   return result;

@@ -1,11 +1,23 @@
 #include <stdlib.h>
 
+#include <algorithm>
 #include <array>
+#include <string_view>
 
 #include "cmd/messages/raise.hpp"
 #include "platform/paths.hpp"
 
 namespace zex_cmd {
+
+namespace {
+
+/// Sources are kept as a list with ";" between them, and the shell puts the value of a variable in place of its
+/// name between two "%", in double quotes too.
+bool isCarriedByShell(const ustring& path) {
+  return path.find(u';') == ustring::npos && std::count(path.begin(), path.end(), u'%') < 2;
+}
+
+}  // namespace
 
 ustring fullPath(const ustring& path) {
   std::array<wchar_t, 512> buffer{};
@@ -13,7 +25,10 @@ ustring fullPath(const ustring& path) {
   if (_wfullpath(buffer.data(), wide, buffer.size()) == nullptr) {
     raiseTyped(msg::Error(u"Invalid path " + path));
   }
-  return ustring(reinterpret_cast<const char16_t*>(buffer.data()));
+  const std::wstring_view whole = buffer.data();
+  const ustring result(whole.begin(), whole.end());
+  if (!isCarriedByShell(result)) raiseTyped(msg::Error(u"Invalid path " + path));
+  return result;
 }
 
 }  // namespace zex_cmd

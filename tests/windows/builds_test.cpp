@@ -83,6 +83,24 @@ TEST_F(WindowsBuilds, TheExampleRunsAndItsRecordFollowsTheSwitches) {
   EXPECT_THAT(failed.err, HasSubstr("[filter:"));
 }
 
+TEST_F(WindowsBuilds, TextsOfExtensionsKeepTheirLetters) {
+  write("echo.c",
+        "#include <zex.h>\nvoid zexFunction(int nlhs, zxArray* plhs[], int nrhs, const zxArray* prhs[]) {\n"
+        "  if (nrhs != 1) zexFail(\"echo:inputs\", \"n\xC3\xB6 %s\", \"\xC3\xA9\");\n"
+        "  zexPrintf(\"%s\\n\", zxReadText(prhs[0]));\n  plhs[0] = zxCopy(prhs[0]);\n}\n");
+  const fs::path shared = fs::path(ZEX_WINE_PREFIX) / "dosdevices" / "unc" / "server" / "share";
+  fs::create_directories(shared);
+  ASSERT_EQ(zex("echo.c -outdir \\\\server\\share").status, 0);
+  const Outcome said = run("zexrun", "\\\\server\\share\\echo.zexw64 'gr\xC3\xBC\xC3\x9F'");
+  EXPECT_EQ(said.out, "gr\xC3\xBC\xC3\x9F\nans1: text, 1 by 4\n    gr\xC3\xBC\xC3\x9F\n") << said.err;
+  EXPECT_THAT(run("zexrun", "\\\\server\\share\\echo.zexw64").err,
+              HasSubstr("error: n\xC3\xB6 \xC3\xA9 [echo:inputs]"));
+  // JSON is in UTF-8 whatever the code page; here that is taken for it once more.
+  EXPECT_THAT(run("zexrun", "--json \\\\server\\share\\echo.zexw64 '\xC3\xBC'").out,
+              HasSubstr("\xC3\x83\xC2\xBC"));
+  removeSoon(shared.parent_path());
+}
+
 TEST_F(WindowsBuilds, ASelectionReplacesAProtectedOne) {
   const fs::path selected = work.parent_path() / "prefs" / "zex_C_win64.xml";
   ASSERT_EQ(zex("-setup:mingw-gcc C").status, 0);

@@ -43,6 +43,24 @@ TEST_F(WindowsFailures, OfWhatCannotBeStartedAreTold) {
                                                       std::to_string(ERROR_FILE_NOT_FOUND) + "\")"));
 }
 
+TEST_F(WindowsFailures, OfPathsNameThem) {
+  write("p;q.c", "");
+  const std::pair<const char*, const char*> cases[] = {
+      {"a.c -outdir Q:\\x\\y", "TESSEL:zex:SrcNotFound(\"Q:\\\\x\\\\y\""},
+      {"a.c TEMP=Q:\\x", "TESSEL:zex:SrcNotFound(\"Q:\\\\x\""},
+      {"p;q.c", "TESSEL:zex:Error(\"Invalid path p;q.c\")"},
+      {"%TEMP%.c", "TESSEL:zex:Error(\"Invalid path %TEMP%.c\")"},
+      {"\xEF\xBC\x8D"
+       "c a.c",
+       "TESSEL:zex:SrcNotFound("},  // a wide "-" is none
+  };
+  for (const auto& [arguments, expected] : cases) {
+    const Outcome outcome = zex(arguments);
+    EXPECT_EQ(outcome.status, 1) << arguments;
+    EXPECT_THAT(outcome.err, HasSubstr(expected)) << arguments;
+  }
+}
+
 TEST_F(WindowsFailures, CaptureFilesThatCannotBeMadeAreAFailedCommand) {
   writeOddDocument("CMDLINE100='$TOOL make $OBJ -c $SRC'");
   set("TMPDIR", "Z:\\proc");  // where not even an administrator makes a file

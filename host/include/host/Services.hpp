@@ -55,6 +55,10 @@ class ZEXHOST_API Services {
   /// empty. `calledFromHost` says that the host asked for the command on its own behalf.
   virtual ShellResult runShellLine(const fl::ustring& line, bool calledFromHost) = 0;
 
+  /// Called ahead of and behind every command that the driver starts without `runShellLine`, as it does on
+  /// Windows. A host that was interrupted meanwhile throws, which ends the driver's command.
+  virtual void stopIfInterrupted() {}
+
   /// Calls a function of the host by name. The inputs stay the caller's. `outputs` has `outputCount` places, null
   /// at the start; what the function puts there becomes the caller's. Gives null where all went well, else an
   /// exception object (see host/values.hpp), which becomes the caller's too. The default knows "getfield" of an
