@@ -18,7 +18,11 @@ VISUALXX = "vc++2022 vc++2019 vc++2017 vc++2015".split()
 PROMISED = {
     "glnxa64": {"C": ["gcc", "clang"], "C++": ["g++", "clang++"], "CUDA": ["nvcc"], "FORTRAN": ["gfortran"]},
     "maci64": {"C": ["clang"], "C++": ["clang++"], "FORTRAN": ["gfortran"]},
-    "win32": {"C": VISUAL, "C++": VISUALXX, "FORTRAN": ["ifort"]},
+    "win32": {
+        "C": [*VISUAL, "mingw-gcc"],
+        "C++": [*VISUALXX, "mingw-g++"],
+        "FORTRAN": ["ifort", "mingw-gfortran"],
+    },
     "win64": {
         "C": [*VISUAL, "mingw-gcc"],
         "C++": [*VISUALXX, "mingw-g++"],
