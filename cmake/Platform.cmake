@@ -39,12 +39,12 @@ function(zex_library_in_tree target)
                INSTALL_RPATH "${ZEX_BESIDE_ITSELF}")
 endfunction()
 
-# Drops from a list of sources those whose name ends in the suffix of another platform.
+# Drops from a list of sources, those of tests among them, what ends in the suffix of another platform.
 function(zex_keep_platform_sources list)
   if(WIN32)
-    list(FILTER ${list} EXCLUDE REGEX "_posix\\.cpp$")
+    list(FILTER ${list} EXCLUDE REGEX "_posix(_test)?\\.cpp$")
   else()
-    list(FILTER ${list} EXCLUDE REGEX "_windows\\.cpp$")
+    list(FILTER ${list} EXCLUDE REGEX "_windows(_test)?\\.cpp$")
   endif()
   set(${list} ${${list}} PARENT_SCOPE)
 endfunction()

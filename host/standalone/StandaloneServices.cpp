@@ -75,7 +75,10 @@ std::string StandaloneServices::locale() const {
 }
 
 void StandaloneServices::stopIfInterrupted() {
-  if (const int signal = pendingInterrupt(); signal != 0) throw Interrupted(signal);
+  const int signal = pendingInterrupt();
+  if (signal == 0) return;
+  awaitEndOfTools();
+  throw Interrupted(signal);
 }
 
 zxArray* StandaloneServices::callFunction(const std::string& name, int outputCount, zxArray* outputs[],

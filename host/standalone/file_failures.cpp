@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "fl/i18n/strings.hpp"
+#include "standalone/file_changes.hpp"
 
 namespace host::standalone {
 
@@ -15,7 +16,7 @@ void raiseFileFailure(const fl::ustring& path, const std::error_code& reason) {
   const auto is = [&reason](std::errc condition) { return reason == condition; };
 
   if (is(std::errc::permission_denied) || is(std::errc::operation_not_permitted) ||
-      is(std::errc::read_only_file_system) || is(std::errc::device_or_resource_busy))
+      is(std::errc::read_only_file_system) || isInUse(reason))
     throw AccessDenied(text);
   if (is(std::errc::no_such_file_or_directory)) throw PathNotFound(text);
   if (is(std::errc::filename_too_long)) throw FileNameTooLarge(text);

@@ -19,6 +19,10 @@ ZEXHOST_API void letInterruptsEndTheProgram();
 /// The first signal that was noted, or 0. It stays noted: no further shell line starts.
 ZEXHOST_API int pendingInterrupt();
 
+/// After an interrupt, waits until all that this program started is gone, for a few seconds at most: on Windows,
+/// files that it has open cannot be removed. Elsewhere there is nothing to wait for.
+void awaitEndOfTools();
+
 /// Ends the command of an interrupted program. Carries no identifier: it is no answer to anything the command
 /// asked.
 class ZEXHOST_API Interrupted : public std::exception {

@@ -38,6 +38,8 @@ void letInterruptsEndTheProgram() {
   }
 }
 
+void awaitEndOfTools() {}
+
 int pendingInterrupt() {
   return firstNoted;
 }

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <csignal>
 #include <cstddef>
+#include <vector>
 
 #include "standalone/interrupts.hpp"
 
@@ -42,17 +43,23 @@ void endMember(DWORD number) {
   CloseHandle(process);
 }
 
-void endTools() {
+/// Numbers of the processes of the family, this one among them.
+std::vector<DWORD> members() {
   // Without a job of its own, the system would list the one around this program.
-  if (family == nullptr) return;
+  if (family == nullptr) return {};
   constexpr std::size_t most = 8192;
   alignas(JOBOBJECT_BASIC_PROCESS_ID_LIST) std::array<std::byte, most> room{};
   const BOOL whole = QueryInformationJobObject(family, JobObjectBasicProcessIdList, room.data(), most, nullptr);
-  if (whole == 0 && GetLastError() != ERROR_MORE_DATA) return;
+  if (whole == 0 && GetLastError() != ERROR_MORE_DATA) return {};
   const auto* const list = reinterpret_cast<const JOBOBJECT_BASIC_PROCESS_ID_LIST*>(room.data());
-  for (DWORD index = 0; index < list->NumberOfProcessIdsInList; ++index) {
-    endMember(static_cast<DWORD>(list->ProcessIdList[index]));
-  }
+  std::vector<DWORD> numbers;
+  for (DWORD index = 0; index < list->NumberOfProcessIdsInList; ++index)
+    numbers.push_back(static_cast<DWORD>(list->ProcessIdList[index]));
+  return numbers;
+}
+
+void endTools() {
+  for (const DWORD number : members()) endMember(number);
 }
 
 /// The signal that stands for an event of the console: a key, or the end of the window or the session.
@@ -79,6 +86,11 @@ void installInterruptHandlers() {
 
 void letInterruptsEndTheProgram() {
   SetConsoleCtrlHandler(note, FALSE);
+}
+
+void awaitEndOfTools() {
+  constexpr int tries = 150;
+  for (int count = 0; count < tries && members().size() > 1; ++count) Sleep(pauseMilliseconds);
 }
 
 int pendingInterrupt() {

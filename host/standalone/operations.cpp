@@ -4,6 +4,7 @@
 
 #include "fl/filesystem/path_names.hpp"
 #include "host/Services.hpp"
+#include "standalone/file_changes.hpp"
 #include "standalone/file_failures.hpp"
 #include "standalone/native_path.hpp"
 #include "standalone/remove_tree.hpp"
@@ -93,7 +94,7 @@ bool create_directories(const ustring& path) {
 
 bool remove(const ustring& path) {
   std::error_code reason;
-  const bool removed = fs::remove(nativePath(path), reason);
+  const bool removed = host::standalone::removeEntry(nativePath(path), reason);
   if (reason) raiseFileFailure(path, reason);
   return removed;
 }
@@ -107,7 +108,7 @@ std::uintmax_t remove_all(const ustring& path) {
 
 void rename(const ustring& from, const ustring& to) {
   std::error_code reason;
-  fs::rename(nativePath(from), nativePath(to), reason);
+  host::standalone::moveEntry(nativePath(from), nativePath(to), reason);
   if (reason) raiseFileFailure(from + u" -> " + to, reason);
 }
 

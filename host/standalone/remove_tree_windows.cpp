@@ -13,11 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 
 std::error_code lastFailure() {
-  const DWORD number = GetLastError();
-  // The library knows no counterpart of these: what is not to be had now.
-  if (number == ERROR_SHARING_VIOLATION || number == ERROR_LOCK_VIOLATION)
-    return std::make_error_code(std::errc::device_or_resource_busy);
-  return {static_cast<int>(number), std::system_category()};
+  return {static_cast<int>(GetLastError()), std::system_category()};
 }
 
 class Remover {

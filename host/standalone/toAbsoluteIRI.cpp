@@ -1,9 +1,11 @@
 #include "foundation/storage/vfs/toAbsoluteIRI.hpp"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
 #include "fl/filesystem/operations.hpp"
+#include "standalone/separators.hpp"
 #include "standalone/utf.hpp"
 
 namespace foundation::storage::vfs {
@@ -26,11 +28,20 @@ std::string percentEncoded(const std::string& bytes) {
   return result;
 }
 
+/// A drive stands behind an empty server; a network path begins with its own.
+fl::ustring rootForm(const fl::ustring& root) {
+  if (root.starts_with(u"//")) return root.substr(2);
+  return root.starts_with(u'/') ? root : u'/' + root;
+}
+
 }  // namespace
 
 fl::ustring toAbsoluteIRI(const fl::ustring& scheme, const fl::ustring& folder) {
-  const std::string path = host::standalone::toUtf8(fl::filesystem::absolute(folder));
-  return scheme + u"://" + host::standalone::fromUtf8(percentEncoded(path));
+  fl::ustring path = fl::filesystem::absolute(folder);
+  std::replace_if(path.begin(), path.end(), host::standalone::isSeparator, u'/');
+  const std::size_t root = host::standalone::rootLength(path);
+  return scheme + u"://" + rootForm(path.substr(0, root)) +
+         host::standalone::fromUtf8(percentEncoded(host::standalone::toUtf8(path.substr(root))));
 }
 
 }  // namespace foundation::storage::vfs

@@ -5,7 +5,7 @@ namespace zex_cmd {
 namespace {
 
 /// Beside those that `quoteWhenNeeded` looks for.
-constexpr fl::ustring_view shellActsUpon = u"^,=;'`|<>\t";
+constexpr fl::ustring_view shellActsUpon = u"^|<>\t";
 
 }  // namespace
 

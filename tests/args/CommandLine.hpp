@@ -3,10 +3,11 @@
 #include <gmock/gmock.h>
 
 #include "args/ZexArgs.hpp"
-#include "fl/i18n/strings.hpp"
 #include "platform/tokens.hpp"
 #include "support/RecordingServices.hpp"
 #include "support/Scratch.hpp"
+#include "support/platform.hpp"
+#include "support/texts.hpp"
 
 namespace zex_test {
 
@@ -42,7 +43,7 @@ class CommandLine : public testing::Test {
 
  private:
   static std::string shown(const std::string& text) { return text; }
-  static std::string shown(const fl::ustring& text) { return fl::i18n::to_string(text); }
+  static std::string shown(const fl::ustring& text) { return zex_test::utf8(text); }
 
   std::string summary() const {
     std::string text, languages, changed;
@@ -90,8 +91,8 @@ class CommandLine : public testing::Test {
   }
 
   std::string told(const std::string& failure) const {
-    const fl::ustring text = fl::i18n::to_ustring(failure == "no error" ? summary() : failure);
-    return fl::i18n::to_string(zex_cmd::replacedAll(text, scratch.path(), u"~"));
+    const std::string text = failure == "no error" ? zex_test::told(summary()) : failure;
+    return utf8(zex_cmd::replacedAll(utf16(text), utf16(scratch.told()), u"~"));
   }
 };
 

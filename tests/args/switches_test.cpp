@@ -23,7 +23,7 @@ TEST_F(Switches, ChangeTheRecord) {
       {{u"-OUTDIR", u"new/dir", u"-output", u"-g", u"-Output", u"é b"}, "output=é b; outDir=~/new/dir"},
       {{u"-Setup:doc.xml"}, "setupArgument=~/doc.xml; flags=setup"},
       {{u"-V"}, "flags=verbose"},
-      {{u"-maci64", u"-WIN64"}, "arch=win64"},
+      {{u"-maci64", u"-WIN32"}, "arch=win32"},
   };
   for (const Case& row : cases) EXPECT_EQ(walked(row.line), row.expected);
   EXPECT_EQ(host.output, "TESSEL:zex:Verbose\n");
@@ -34,7 +34,7 @@ TEST_F(Switches, UnknownOnesFail) {
       u"-R -R2016b -R0x -R2018az -cx -Compatiblearraydims -D -dX -fo -G -gx -I -iX -L -l -o -outdirs -s -setup: "
       u"-setupx -tesselx -U -uX -vx -xml:list.xml -é --g -H -HELP -Inline -ADA";
   for (const fl::ustring& token : zex_cmd::splitTokens(all, u" ")) {
-    EXPECT_EQ(walked({token}), "TESSEL:zex:UnknownSwitch(\"" + fl::i18n::to_string(token) + "\")");
+    EXPECT_EQ(walked({token}), "TESSEL:zex:UnknownSwitch(\"" + zex_test::utf8(token) + "\")");
   }
 }
 
@@ -47,11 +47,6 @@ TEST_F(Switches, FailuresNameTheirCause) {
   for (const Case& row : cases) EXPECT_EQ(walked(row.line), row.expected);
   // Every failure is announced once.
   EXPECT_EQ(host.errors.size(), std::size(cases));
-
-  std::filesystem::create_directory("gone");
-  std::filesystem::current_path("gone");
-  std::filesystem::remove("../gone");
-  EXPECT_EQ(walked({u"-outdir", u"new"}), "TESSEL:zex:SrcNotFound(\"new\", \"new\")");
 }
 
 TEST_F(Switches, TesselDropsWhatFollows) {

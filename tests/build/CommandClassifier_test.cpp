@@ -6,9 +6,9 @@
 #include <string>
 
 #include "build/response_file.hpp"
-#include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
 #include "support/InstalledTree.hpp"
+#include "support/texts.hpp"
 
 namespace zex_cmd {
 namespace {
@@ -56,8 +56,8 @@ TEST(CommandClassifier, KnowsCommandsByTheMakersMarks) {
   for (const Case& row : cases) {
     const auto option = documentOf(tree, row.manufacturer);
     const CommandClass found = CommandClassifier(*option).classifyCommand(row.text);
-    EXPECT_EQ(found.kind, row.kind) << row.manufacturer << ": " << fl::i18n::to_string(row.text);
-    EXPECT_EQ(found.output, row.output) << row.manufacturer << ": " << fl::i18n::to_string(row.text);
+    EXPECT_EQ(found.kind, row.kind) << row.manufacturer << ": " << zex_test::utf8(row.text);
+    EXPECT_EQ(found.output, row.output) << row.manufacturer << ": " << zex_test::utf8(row.text);
   }
 }
 
@@ -65,7 +65,7 @@ TEST(ResponseFile, ServesCompilesAndLinksFromEightThousandCharacters) {
   const InstalledTree tree;
   ZexBuildCommand record;
   record.option = documentOf(tree, "GNU");
-  record.command = u"sh tool.sh" + ustring(7989, u'x');
+  record.command = u"tool" + ustring(7995, u'x');
   record.kind = ZexCommandKind::Compile;
   EXPECT_EQ(record.command.size(), 7999U);
   EXPECT_FALSE(needsResponseFile(record));
@@ -76,12 +76,12 @@ TEST(ResponseFile, ServesCompilesAndLinksFromEightThousandCharacters) {
 
   record.kind = ZexCommandKind::Link;
   const ustring folder = tree.scratch.path("tmp");
-  EXPECT_EQ(responseFileCommand(record, folder).command, u"sh tool.sh @" + folder + u"/zex_temp.rsp");
-  EXPECT_EQ(tree.scratch.read("tmp/zex_temp.rsp"), std::string(7989, 'x') + "/");  // a backslash becomes "/"
+  EXPECT_EQ(responseFileCommand(record, folder).command, u"tool @" + tree.scratch.path("tmp/zex_temp.rsp"));
+  EXPECT_EQ(tree.scratch.read("tmp/zex_temp.rsp"), std::string(7995, 'x') + "/");  // a backslash becomes "/"
 
   record.option = documentOf(tree, "Other");
-  EXPECT_EQ(responseFileCommand(record, folder).command, u"sh tool.sh @" + folder + u"/zex_temp.rsp");
-  EXPECT_EQ(tree.scratch.read("tmp/zex_temp.rsp"), std::string(7989, 'x') + "\\");
+  EXPECT_EQ(responseFileCommand(record, folder).command, u"tool @" + tree.scratch.path("tmp/zex_temp.rsp"));
+  EXPECT_EQ(tree.scratch.read("tmp/zex_temp.rsp"), std::string(7995, 'x') + "\\");
 }
 
 }  // namespace

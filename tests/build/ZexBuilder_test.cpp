@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <boost/make_shared.hpp>
-#include <cstdlib>
 #include <initializer_list>
 
 #include "args/ZexArgs.hpp"
@@ -19,6 +18,8 @@ namespace {
 using zex_test::Document;
 using zex_test::failureOf;
 using zex_test::InstalledTree;
+using zex_test::selection;
+using zex_test::selectionBackup;
 
 class Builder : public testing::Test {
  protected:
@@ -49,7 +50,7 @@ const std::string versionSource = "/root/extern/version/c_zexapi_version.c";
 TEST_F(Builder, CompilesInKeyOrderLinksAndReports) {
   EXPECT_EQ(build({u"a.c"}), "no error");
   EXPECT_EQ(tree.host.output, "TESSEL:zex:Building(\"Fake C\")\nTESSEL:zex:Complete\n");
-  const std::string folder = tree.scratch.folder().string();
+  const std::string folder = tree.scratch.told();
   const std::string flags = "-DTESSEL_DEFAULT_RELEASE=R2017b -DUSE_ZEX_CMD -O -c ";
   EXPECT_EQ(tree.toolLog(), flags + folder + "/a.c -o tmp/a.o\n" + flags + folder + versionSource +
                                 " -o tmp/c_zexapi_version.o\n-o a.zexa64 tmp/a.o tmp/c_zexapi_version.o\n");
@@ -59,12 +60,14 @@ TEST_F(Builder, VerboseTextComesInOrder) {
   tree.scratch.write("a.c", "WARN");
   EXPECT_EQ(build({u"a.c", u"-v"}), "no error");
   const std::string& text = tree.host.output;
+  const std::string joined = "value" + std::string(zex_test::platform.joinedToNone);
+  const std::string setting = "TESSEL:zex:SetEnv(\"ZEX_TEST_ENV\", \"" + joined + "\")\n";
   std::size_t position = 0;
   for (const char* piece :
-       {"TESSEL:zex:Verbose\n", "TESSEL:zex:SetEnv(\"ZEX_TEST_ENV\", \"value\")\n", "Options file details\n-----",
-        "\tCompiler location: .\n", "\tOptions file: ", "\tCOMPILER : sh tool.sh\n", "\tEXE : a.zexa64\n",
-        "-----\nTESSEL:zex:Building(\"Fake C\")\n", "/a.c\" -o tmp/a.o\ncareful\n\ndetail\n",
-        "sh tool.sh -o a.zexa64", "TESSEL:zex:Complete\n"}) {
+       {"TESSEL:zex:Verbose\n", setting.c_str(), "Options file details\n-----", "\tCompiler location: .\n",
+        "\tOptions file: ", "\tCOMPILER : tool\n", "\tEXE : a.zexa64\n",
+        "-----\nTESSEL:zex:Building(\"Fake C\")\n", "/a.c\" -o tmp/a.o\ncareful\n\ndetail\n", "tool -o a.zexa64",
+        "TESSEL:zex:Complete\n"}) {
     position = text.find(piece, position);
     ASSERT_NE(position, std::string::npos) << piece << " in\n" << text;
   }
@@ -81,28 +84,27 @@ TEST_F(Builder, FailuresCarryTheToolsWordsOrItsCode) {
   tree.scratch.write("fails.c", "FAIL");
   EXPECT_EQ(build({u"a.c", u"fails.c"}), "TESSEL:zex:Error(\"out\\n\\nbad source\\n\")");
   EXPECT_EQ(tree.toolLog().find("-o fails"), std::string::npos) << "a command ran after the failed one";
-  EXPECT_STREQ(std::getenv("ZEX_TEST_ENV"), "");
+  EXPECT_EQ(zex_test::variable("ZEX_TEST_ENV"), zex_test::emptied());
 
   tree.scratch.write("fails.c", "SILENT");
-  EXPECT_EQ(build({u"fails.c"}), "TESSEL:zex:ZexErrorCode(\"sh\", \"3\")");
+  EXPECT_EQ(build({u"fails.c"}), "TESSEL:zex:ZexErrorCode(\"tool\", \"3\")");
 
-  document.linkCommand = "true -o $EXE";  // status 0, no product
-  EXPECT_EQ(build({u"a.c"}), "TESSEL:zex:ZexErrorCode(\"true\", \"0\")");
+  document.linkCommand = "tool --exit 0 -o $EXE";  // no product
+  EXPECT_EQ(build({u"a.c"}), "TESSEL:zex:ZexErrorCode(\"tool\", \"0\")");
 }
 
 TEST_F(Builder, DryRunPrintsTheCommandsThatARealRunExecutes) {
   document.compileCommand = "$COMPILER -c $SRC -o $OBJ";
   EXPECT_EQ(build({u"a.c", u"-n", u"-silent"}), "no error");
-  const std::string folder = tree.scratch.folder().string();
-  EXPECT_EQ(tree.host.output, "sh tool.sh -c \"" + folder + "/a.c\" -o tmp/a.o\nsh tool.sh -c \"" + folder +
-                                  versionSource +
-                                  "\" -o tmp/c_zexapi_version.o\nsh tool.sh -o a.zexa64 tmp/a.o "
+  const std::string folder = tree.scratch.told();
+  EXPECT_EQ(tree.host.output, "tool -c \"" + folder + "/a.c\" -o tmp/a.o\ntool -c \"" + folder + versionSource +
+                                  "\" -o tmp/c_zexapi_version.o\ntool -o a.zexa64 tmp/a.o "
                                   "tmp/c_zexapi_version.o\n");
   EXPECT_EQ(tree.toolLog(), "");
 
   tree.host.output.clear();
   EXPECT_EQ(build({u"a.c", u"-n", u"-silent", u"LINKLIBS=" + ustring(8000, u'x')}), "no error");
-  EXPECT_TRUE(tree.host.output.ends_with("sh tool.sh @tmp/zex_temp.rsp\n"));
+  EXPECT_TRUE(tree.host.output.ends_with("tool @tmp/zex_temp.rsp\n"));
   EXPECT_TRUE(tree.scratch.has("tmp/zex_temp.rsp"));
 }
 
@@ -132,8 +134,8 @@ TEST_F(Builder, AdmitsOnlyWhatTheRequestIsFor) {
       const std::size_t end = tree.host.output.find('\n', start);
       const std::string line = tree.host.output.substr(start, end - start);
       start = end + 1;
-      const bool links = line.find("sh tool.sh -o") == 0;
-      const bool compiles = line.find("sh tool.sh -c") == 0;
+      const bool links = line.find("tool -o") == 0;
+      const bool compiles = line.find("tool -c") == 0;
       commands += links ? "l" : compiles ? "c" : line == "echo before" ? "b" : line == "echo after" ? "a" : "p";
     }
     EXPECT_EQ(commands, row.commands);
@@ -147,20 +149,14 @@ TEST_F(Builder, TheZbuildClientsGetNoClosingNotice) {
 }
 
 TEST_F(Builder, HeaderOrderMistakeInACompileIsTriedOnceMore) {
-  tree.scratch.write("order.sh",
-                     "echo \"$*\" >> tool.log\n"
-                     "case \"$*\" in *-DZX_COMPAT_32*) exit 0;; esac\n"
-                     "echo tzwtypesbeforezimstrucdetected\n"
-                     "exit 1\n");
-  document.compileCommand = "sh order.sh -c $SRC -o $OBJ";
-  document.linkCommand = "sh order.sh -o $EXE";
+  document.compileCommand = "tool --order -c $SRC -o $OBJ";
+  document.linkCommand = "tool --order -o $EXE";
   EXPECT_EQ(build({u"a.c", u"-v"}), "TESSEL:zex:Error(\"tzwtypesbeforezimstrucdetected\\n\\n\")");
-  const std::string compile = "-c " + (tree.scratch.folder() / "a.c").string() + " -o tmp/a.o";
-  const std::string version =
-      "-c " + tree.scratch.folder().string() + versionSource + " -o tmp/c_zexapi_version.o";
+  const std::string compile = "--order -c " + tree.scratch.told("a.c") + " -o tmp/a.o";
+  const std::string version = "--order -c " + tree.scratch.told() + versionSource + " -o tmp/c_zexapi_version.o";
   // Both compiles are repeated; the link, which makes the same mistake, is not.
   EXPECT_EQ(tree.toolLog(), compile + "\n" + compile + " -DZX_COMPAT_32\n" + version + "\n" + version +
-                                " -DZX_COMPAT_32\n-o a.zexa64\n");
+                                " -DZX_COMPAT_32\n--order -o a.zexa64\n");
   EXPECT_NE(tree.host.output.find("TESSEL:zex:SFunctionMsg\n"), std::string::npos);
 }
 
@@ -185,13 +181,12 @@ TEST_F(Builder, ALockedProductCostsNoCompile) {
 
 TEST_F(Builder, OutdatedSelectionIsRewrittenWithItsBackup) {
   document.release = "R2017a";
-  tree.scratch.write("prefs/zex_C_glnxa64.xml", document.xml());
+  tree.scratch.write("prefs/" + selection, document.xml());
   document.release.clear();
   EXPECT_EQ(build({u"a.c", u"-silent"}), "no error");
   EXPECT_NE(tree.host.output.find("TESSEL:zex:FileRenamed("), std::string::npos);
-  EXPECT_EQ(tree.scratch.names("prefs"),
-            (std::vector<std::string>{"zex_C_glnxa64.xml", "zex_C_glnxa64_backup.xml"}));
-  EXPECT_NE(tree.scratch.read("prefs/zex_C_glnxa64.xml").find("release=\"R2018a\""), std::string::npos);
+  EXPECT_EQ(tree.scratch.names("prefs"), (std::vector<std::string>{selection, selectionBackup}));
+  EXPECT_NE(tree.scratch.read("prefs/" + selection).find("release=\"R2018a\""), std::string::npos);
   tree.host.output.clear();
   EXPECT_EQ(build({u"a.c", u"-silent"}), "no error");
   EXPECT_EQ(tree.host.output, "");  // the second build leaves it alone

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-
 #include "options/ZexOpt.hpp"
 #include "support/InstalledTree.hpp"
 
@@ -13,7 +11,9 @@ namespace {
 using zex_test::Document;
 using zex_test::failureOf;
 using zex_test::InstalledTree;
+using zex_test::platform;
 using zex_test::ScopedVariable;
+using zex_test::variable;
 
 TEST(EnvironmentGuard, PutsTheDocumentsTextFirstAndRestores) {
   const InstalledTree tree;
@@ -26,12 +26,13 @@ TEST(EnvironmentGuard, PutsTheDocumentsTextFirstAndRestores) {
   const ZexOpt option(tree.scratch.path("d.xml"), "", u"", false);
   {
     const ZexEnvironmentGuard guard(option);
-    EXPECT_STREQ(std::getenv("ZEX_TEST_SET"), "new:old");
-    EXPECT_STREQ(std::getenv("ZEX_TEST_UNSET"), "alone");  // no empty entry, which would mean the current folder
+    EXPECT_EQ(variable("ZEX_TEST_SET"), "new" + std::string(platform.listSeparator) + "old");
+    // On POSIX an empty entry would mean the current folder.
+    EXPECT_EQ(variable("ZEX_TEST_UNSET"), "alone" + std::string(platform.joinedToNone));
   }
-  EXPECT_STREQ(std::getenv("ZEX_TEST_SET"), "old");
-  EXPECT_STREQ(std::getenv("ZEX_TEST_TWICE"), "0");
-  EXPECT_STREQ(std::getenv("ZEX_TEST_UNSET"), "");  // set to the empty text, not removed
+  EXPECT_EQ(variable("ZEX_TEST_SET"), "old");
+  EXPECT_EQ(variable("ZEX_TEST_TWICE"), "0");
+  EXPECT_EQ(variable("ZEX_TEST_UNSET"), zex_test::emptied());
 }
 
 TEST(EnvironmentGuard, FailureHalfWayRestoresWhatWasSet) {
@@ -43,7 +44,7 @@ TEST(EnvironmentGuard, FailureHalfWayRestoresWhatWasSet) {
   ZexOpt option(tree.scratch.path("d.xml"), "", u"", false);
   option.setValue(u"config.env.<xmlattr>.BAD=NAME", u"x");  // the system takes no "=" in a name
   EXPECT_EQ(failureOf([&] { const ZexEnvironmentGuard guard(option); }), "TESSEL:zex:FailSetEnv(\"BAD=NAME\")");
-  EXPECT_STREQ(std::getenv("ZEX_TEST_SET"), "old");
+  EXPECT_EQ(variable("ZEX_TEST_SET"), "old");
 }
 
 TEST(EnvironmentGuard, WarnsOfALongValue) {
@@ -52,7 +53,8 @@ TEST(EnvironmentGuard, WarnsOfALongValue) {
   Document document;
   tree.scratch.write("d.xml", document.xml());
   ZexOpt option(tree.scratch.path("d.xml"), "", u"", false);
-  for (const std::size_t length : {7999U, 8000U}) {
+  const std::size_t longest = 7999 - platform.joinedToNone.size();
+  for (const std::size_t length : {longest, longest + 1}) {
     option.setValue(u"config.env.<xmlattr>.ZEX_TEST_SET", ustring(length, u'x'));
     const ZexEnvironmentGuard guard(option);
   }

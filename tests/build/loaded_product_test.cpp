@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "fl/filesystem/path_names.hpp"
 #include "support/InstalledTree.hpp"
 #include "support/RecordingDispatcher.hpp"
+#include "support/texts.hpp"
 
 namespace zex_cmd {
 namespace {
@@ -40,7 +42,8 @@ TEST(LoadedProduct, IsUnloadedOrRefusedByTheFirstSetThatCountsAndMatches) {
     dispatcher.table = {nullptr, &set};
     if (row.unloaded) dispatcher.table.push_back(&later);  // the walk must end at the first match
     tree.host.dispatch = &dispatcher;
-    EXPECT_EQ(failureOf([&] { releaseLoadedProduct(row.product); }), row.failure) << row.what;
+    const ustring product = fl::filesystem::detail::make_native_form(row.product);
+    EXPECT_EQ(failureOf([&] { releaseLoadedProduct(product); }), row.failure) << row.what;
     EXPECT_EQ(set.unloaded, row.unloaded) << row.what;
   }
 }
@@ -64,7 +67,9 @@ TEST(LoadedProduct, PathManagerIsToldOfTheFolder) {
   RecordingDispatcher dispatcher;
   tree.host.dispatch = &dispatcher;
   notifyPathManager(u"\"/x y/a.zexa64\"");
-  EXPECT_EQ(dispatcher.notices, std::vector<ustring>{u"file:///x%20y"});
+  const std::string drive(zex_test::platform.drive);
+  EXPECT_EQ(dispatcher.notices,
+            std::vector<ustring>{zex_test::utf16("file://" + (drive.empty() ? "" : "/" + drive) + "/x%20y")});
   EXPECT_EQ(dispatcher.updates, std::vector<int>{0});
   notifyPathManager(u"a.zexa64");
   EXPECT_TRUE(dispatcher.notices.back().ends_with(u"/zex%20test%20%C3%A9%20" +

@@ -66,12 +66,12 @@ TEST_F(Commands, OptionsFileTellsTheLanguageOfTheVersionSource) {
 
 TEST_F(Commands, HelpWinsOverAllElseAndPrintsTheFileAsItIs) {
   EXPECT_EQ(run({u"-badswitch", u"-output", u"-help"}), "no error");
-  EXPECT_EQ(tree.host.output, "The ZEX help file " + (tree.scratch.folder() / "root").string() +
-                                  "/bin/util/zex/zexHelp.txt not exists.\n");
+  EXPECT_EQ(tree.host.output,
+            "The ZEX help file " + tree.scratch.told("root") + "/bin/util/zex/zexHelp.txt not exists.\n");
   tree.host.output.clear();
   tree.scratch.write("root/bin/util/zex/zexHelp.txt", "100%s \xff\n\nlast");
   EXPECT_EQ(run({u"-ada", u"-h"}), "no error");
-  EXPECT_EQ(tree.host.output, "100%s \xff\n\nlast\n");
+  EXPECT_EQ(tree.host.output, zex_test::fromNative("100%s \xff\n\nlast\n"));
   EXPECT_EQ(run({u"-H"}), "TESSEL:zex:UnknownSwitch(\"-H\")");
   EXPECT_EQ(run({u"-ADA"}), "TESSEL:zex:UnknownSwitch(\"-ADA\")");
 }

@@ -1,12 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "cmd/Zex.hpp"
-#include "fl/i18n/strings.hpp"
 #include "support/InstalledTree.hpp"
+#include "support/texts.hpp"
 
 namespace zex_cmd {
 namespace {
 
+using zex_test::architecture;
 using zex_test::Document;
 using zex_test::failureOf;
 using zex_test::InstalledTree;
@@ -33,11 +34,11 @@ class Query : public testing::Test {
   }
 
   /// Names of the records in order, or the failure.
-  std::string query(const std::string& language, const std::string& kind, const std::string& arch = "glnxa64") {
+  std::string query(const std::string& language, const std::string& kind, const std::string& arch = architecture) {
     std::string names;
     const std::string failure = failureOf([&] {
       for (const CompilerRecord& record : zex.queryCompilers(language, kind, arch)) {
-        names += fl::i18n::to_string(record.at(u"Name"));
+        names += zex_test::utf8(record.at(u"Name"));
       }
     });
     return failure == "no error" ? names : failure;
@@ -103,22 +104,24 @@ TEST_F(Query, RecordsDescribeTheResolvedDocument) {
   document.details = "LinkerExecutable=\"$LINKER\"";
   document.env = "PATH=\"p\" LIB=\"l\" LIBPATH=\"lp\"";
   tree.offer("e.xml", document);
-  const CompilerRecord record = zex.queryCompilers("fortran", "installed", "glnxa64").front();
-  const std::pair<const char16_t*, const char16_t*> expected[] = {
-      {u"SetEnv", u"set X=glnxa64\nset PATH=p;%TESSEL_BIN%;%PATH%\nset LIB=l;%LIB%\nset LIBPATH=lp;%LIBPATH%\n"},
-      {u"LinkerName", u"sh tool.sh"},
-      {u"LinkerExecutable", u"sh tool.sh"},
+  const CompilerRecord record = zex.queryCompilers("fortran", "installed", architecture).front();
+  const ustring arch = zex_test::utf16(architecture);
+  const std::pair<const char16_t*, ustring> expected[] = {
+      {u"SetEnv",
+       u"set X=" + arch + u"\nset PATH=p;%TESSEL_BIN%;%PATH%\nset LIB=l;%LIB%\nset LIBPATH=lp;%LIBPATH%\n"},
+      {u"LinkerName", u"tool"},
+      {u"LinkerExecutable", u"tool"},
       {u"SystemPath", u"p;%PATH%"},
       {u"LibraryPath", u"l;lp;%LIB%"},
       {u"IncludePath", u"%INCLUDE%"},
-      {u"TargetArch", u"glnxa64"},
+      {u"TargetArch", arch},
       {u"RenameObjectFlag", u"/Fo"},
       {u"LinkLibraryLocation", u"l"},
       {u"LinkOutputFlagAndDLLName", u"/out:.zexa64"},
       {u"OptimizationFlags", u"-O"},
   };
   for (const auto& [key, value] : expected) {
-    ASSERT_TRUE(record.contains(key)) << fl::i18n::to_string(key);
+    ASSERT_TRUE(record.contains(key)) << zex_test::utf8(key);
     EXPECT_EQ(record.at(key), value);
   }
   EXPECT_FALSE(record.contains(u"CommandLineShell"));

@@ -8,16 +8,19 @@
 #include "args/ZexArgs.hpp"
 #include "cmd/messages/ZexConfigPerTVM.hpp"
 #include "compilers/compiler_reports.hpp"
-#include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
 #include "support/InstalledTree.hpp"
+#include "support/texts.hpp"
 
 namespace zex_cmd {
 namespace {
 
+using zex_test::catalogue;
 using zex_test::Document;
 using zex_test::failureOf;
 using zex_test::InstalledTree;
+using zex_test::selection;
+using zex_test::selectionBackup;
 
 class Setup : public testing::Test {
  protected:
@@ -42,9 +45,7 @@ class Setup : public testing::Test {
     });
   }
 
-  std::string catalogue(const std::string& file) const {
-    return (tree.scratch.folder() / "root/bin/glnxa64/zexopts" / file).string();
-  }
+  std::string offered(const std::string& file) const { return tree.scratch.told(catalogue + file); }
   std::vector<std::string> preferences() const { return tree.scratch.names("prefs"); }
 
   InstalledTree tree;
@@ -61,10 +62,10 @@ TEST_F(Setup, BareWithOneCompilerWritesOnce) {
   tree.offer("f.xml", compiler("F", "A", "FORTRAN"));
   EXPECT_EQ(setup({u"-setup"}), "no error");
   EXPECT_EQ(tree.host.output, configured1 + hint);
-  EXPECT_EQ(preferences(), std::vector<std::string>{"zex_C_glnxa64.xml"});
+  EXPECT_EQ(preferences(), std::vector<std::string>{selection});
   EXPECT_EQ(setup({u"-setup"}), "no error");
   EXPECT_EQ(tree.host.output, configured1 + hint);
-  EXPECT_EQ(preferences(), std::vector<std::string>{"zex_C_glnxa64.xml"}) << "written again";
+  EXPECT_EQ(preferences(), std::vector<std::string>{selection}) << "written again";
 }
 
 TEST_F(Setup, WhatIsWrittenIsTheDocumentAndNotItsValuesForThisCommand) {
@@ -72,8 +73,8 @@ TEST_F(Setup, WhatIsWrittenIsTheDocumentAndNotItsValuesForThisCommand) {
   document.vars = "NOTE=\"tab&#9;feed&#10;&quot;quote&quot; &amp; é\"";
   tree.offer("a.xml", document);
   EXPECT_EQ(setup({u"-setup", u"C"}), "no error");
-  const ZexOpt source(fl::i18n::to_ustring(catalogue("a.xml")), "", u"", false);
-  const ZexOpt saved(tree.scratch.path("prefs/zex_C_glnxa64.xml"), "", u"", false);
+  const ZexOpt source(zex_test::utf16(offered("a.xml")), "", u"", false);
+  const ZexOpt saved(tree.scratch.path("prefs/" + selection), "", u"", false);
   EXPECT_TRUE(saved.currentRelease);
   EXPECT_TRUE(saved.installed);
   for (const ustring& key : source.attributePaths(u"config.vars")) EXPECT_EQ(saved.value(key), source.value(key));
@@ -86,8 +87,8 @@ TEST_F(Setup, SeveralCompilersAreListedBehindTheConfiguredOne) {
   Document gone = compiler("3", "0");
   gone.installed = false;
   tree.offer("gone.xml", gone);
-  const std::string second = catalogue("a b.xml");
-  const std::string saved = (tree.scratch.folder() / "root/bin/glnxa64/zexopts/c.xml").string();
+  const std::string second = offered("a b.xml");
+  const std::string saved = offered("c.xml");
   EXPECT_EQ(setup({u"-setup"}), "no error");
   EXPECT_EQ(tree.host.output, configured1 + "\nTESSEL:zex:MultiCompilers(\"C\")\nFor 2:  zex -setup:\"" + second +
                                   "\" C\nFor 1:  zex -setup:\"" + saved + "\" C\n" + hint);
@@ -111,9 +112,9 @@ TEST_F(Setup, AChosenCompilerStaysChosenAndAFormerChoiceIsKept) {
   EXPECT_EQ(setup({u"-setup", u"C"}), "no error");
   EXPECT_NE(tree.host.output.find("ConfiguredToUse(\"ZEX\", \"2\""), std::string::npos);
 
-  const ustring line = u"-setup:" + fl::i18n::to_ustring(catalogue("a.xml"));
+  const ustring line = u"-setup:" + zex_test::utf16(offered("a.xml"));
   EXPECT_EQ(setup({line, u"C"}), "no error");
-  EXPECT_NE(tree.scratch.read("prefs/zex_C_glnxa64_backup.xml").find("Name=\"2\""), std::string::npos);
+  EXPECT_NE(tree.scratch.read("prefs/" + selectionBackup).find("Name=\"2\""), std::string::npos);
   EXPECT_EQ(tree.host.output.find("FileRenamed"), tree.host.output.rfind("FileRenamed"));
   EXPECT_NE(tree.host.output.find("FileRenamed"), std::string::npos);
 }
@@ -122,9 +123,9 @@ TEST_F(Setup, DestinationIsWhatTheOptionsFileSays) {
   tree.offer("a.xml", compiler("1", "A"));
   struct Case {
     const char16_t* destination;
-    const char* file;
+    std::string file;
   };
-  const Case cases[] = {{u"new folder", "new folder/zex_C_glnxa64.xml"}, {u"some/new.xml", "some/new.xml"}};
+  const Case cases[] = {{u"new folder", "new folder/" + selection}, {u"some/new.xml", "some/new.xml"}};
   for (const Case& row : cases) {
     EXPECT_EQ(setup({u"-setup:short1", u"C", u"-f", row.destination}), "no error");
     EXPECT_TRUE(tree.scratch.has(row.file)) << row.file;
@@ -132,14 +133,14 @@ TEST_F(Setup, DestinationIsWhatTheOptionsFileSays) {
   }
   tree.scratch.write("my.xml", compiler("1", "A").xml());
   EXPECT_EQ(setup({u"-setup", u"-f", u"my.xml"}), "no error") << "without a name -f is the document";
-  EXPECT_EQ(preferences(), std::vector<std::string>{"zex_C_glnxa64.xml"});
+  EXPECT_EQ(preferences(), std::vector<std::string>{selection});
 }
 
 TEST_F(Setup, FailuresNameWhatIsMissing) {
   Document gone = compiler("1", "A");
   gone.installed = false;
   tree.offer("a.xml", gone);
-  const ustring file = fl::i18n::to_ustring(catalogue("a.xml"));
+  const ustring file = zex_test::utf16(offered("a.xml"));
   struct Case {
     std::vector<ustring> arguments;
     const char* failure;
@@ -160,11 +161,11 @@ TEST_F(Setup, FailuresNameWhatIsMissing) {
 
 TEST_F(Setup, ATakenBackupNameLeavesTheFormerChoice) {
   tree.offer("a.xml", compiler("1", "A"));
-  tree.scratch.write("prefs/zex_C_glnxa64.xml", compiler("1", "A").xml());
-  std::filesystem::create_directories(tree.scratch.folder() / "prefs/zex_C_glnxa64_backup.xml/in the way");
-  const std::string prefs = (tree.scratch.folder() / "prefs").string();
+  tree.scratch.write("prefs/" + selection, compiler("1", "A").xml());
+  std::filesystem::create_directories(tree.scratch.folder() / ("prefs/" + selectionBackup) / "in the way");
+  const std::string prefs = tree.scratch.told("prefs");
   EXPECT_EQ(setup({u"-setup", u"C"}), "TESSEL:zex:SrcNotFound(\"" + prefs + "\", \"" + prefs + "\")");
-  EXPECT_EQ(tree.scratch.read("prefs/zex_C_glnxa64.xml"), compiler("1", "A").xml());
+  EXPECT_EQ(tree.scratch.read("prefs/" + selection), compiler("1", "A").xml());
 }
 
 TEST_F(Setup, HintsWithLinksRepeatTheClient) {
@@ -187,7 +188,7 @@ TEST_F(Setup, ACallerGetsTheListOfResolvedDocuments) {
   compilers = boost::make_shared<ZexCompilers>(&args);
   ZexSetup(args, compilers, "");
   EXPECT_EQ(args->xmlFile, u"list.xml");
-  EXPECT_NE(tree.scratch.read("list.xml").find("WHERE=\"glnxa64\""), std::string::npos);
+  EXPECT_NE(tree.scratch.read("list.xml").find("WHERE=\"" + zex_test::architecture + "\""), std::string::npos);
   EXPECT_NE(tree.host.output.find("list.xml is output.\n"), std::string::npos);
 }
 

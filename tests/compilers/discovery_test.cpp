@@ -4,16 +4,19 @@
 
 #include "args/ZexArgs.hpp"
 #include "compilers/ZexCompilers.hpp"
-#include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
 #include "support/InstalledTree.hpp"
+#include "support/texts.hpp"
 
 namespace zex_cmd {
 namespace {
 
+using zex_test::catalogue;
 using zex_test::Document;
 using zex_test::failureOf;
 using zex_test::InstalledTree;
+using zex_test::selection;
+using zex_test::told;
 
 class Discovery : public testing::Test {
  protected:
@@ -21,7 +24,7 @@ class Discovery : public testing::Test {
   static std::string namesOf(const ZexOptList& list) {
     std::string names;
     for (const auto& opt : list) {
-      const std::string path = fl::i18n::to_string(opt->attribute(u"ZEXOPT"));
+      const std::string path = told(zex_test::utf8(opt->attribute(u"ZEXOPT")));
       names += (opt->selected ? "*" : "") + path.substr(path.rfind('/') + 1) + " ";
     }
     return names;
@@ -48,7 +51,7 @@ TEST_F(Discovery, CatalogueScanFilters) {
   Document zbuild = named("zbuild");
   zbuild.client = "<zbuild/>";
   tree.offer("z.xml", zbuild);
-  tree.scratch.write("root/bin/glnxa64/zexopts/folder.xml/x", "");
+  tree.scratch.write(catalogue + "folder.xml/x", "");
 
   EXPECT_EQ(namesOf(compilers.findCatalogueOpts("C", u"", true)), "a.xml b.XML z.xml ");
   EXPECT_EQ(namesOf(compilers.findCatalogueOpts("C", u"", true)), "") << "a second scan yields only what is new";
@@ -64,43 +67,48 @@ TEST_F(Discovery, CatalogueScanFilters) {
 
 TEST_F(Discovery, ABadDocumentEndsTheScanUnlessTheMatchComesFirst) {
   tree.offer("a.xml", named("one"));
-  tree.scratch.write("root/bin/glnxa64/zexopts/b.xml", "<config");
+  tree.scratch.write(catalogue + "b.xml", "<config");
   EXPECT_EQ(namesOf(compilers.findCatalogueOpts("C", u"one", true)), "a.xml ");
   EXPECT_EQ(failureOf([&] { compilers.findCatalogueOpts("C", u"", true); }).substr(0, 21),
             "TESSEL:zex:InvalidXML");
 }
 
 TEST_F(Discovery, SelectedFilesAreNamedByClientLanguageAndArchitecture) {
+  const std::string ending = zex_test::architecture + ".xml";
   struct Case {
-    const char* file;
+    std::string file;
     const char* client;
     const char* language;
     bool taken;
   };
   const Case cases[] = {
-      {"zex_C_glnxa64.xml", "", "C", true},          {"zex_C_glnxa64.xml", "", "C++", false},
-      {"zex_C++_glnxa64.xml", "", "C++", true},      {"ZEX_C_GLNXA64.XML", "", "C", false},
-      {"zex_C_win64.xml", "", "C", false},           {"ENGINE_C_glnxa64.xml", "ENGINE", "C", true},
-      {"zex_C_glnxa64.xml", "ENGINE", "C", true},    {"zex_C_glnxa64.xml", "ZBUILD", "C", false},
-      {"ZBUILD_C_glnxa64.xml", "ZBUILD", "C", true},
+      {selection, "", "C", true},
+      {selection, "", "C++", false},
+      {"zex_C++_" + ending, "", "C++", true},
+      {"ZEX_C_GLNXA64.XML", "", "C", false},
+      {"zex_C_maci64.xml", "", "C", false},
+      {"ENGINE_C_" + ending, "ENGINE", "C", true},
+      {selection, "ENGINE", "C", true},
+      {selection, "ZBUILD", "C", false},
+      {"ZBUILD_C_" + ending, "ZBUILD", "C", true},
   };
   for (const Case& row : cases) {
     InstalledTree fresh;
     Document document = named("x", row.language);
     document.client = "<ENGINE/><ZBUILD/>";
-    fresh.scratch.write(std::string("prefs/") + row.file, document.xml());
+    fresh.scratch.write("prefs/" + row.file, document.xml());
     args->client = row.client;
-    const std::string expected = row.taken ? std::string("*") + row.file + " " : "";
+    const std::string expected = row.taken ? "*" + row.file + " " : "";
     EXPECT_EQ(namesOf(ZexCompilers(&args).findSelectedOpts(row.language, u"")), expected)
         << row.file << row.client;
   }
 }
 
 TEST_F(Discovery, CurrentFolderHidesThePreferences) {
-  tree.scratch.write("prefs/zex_C_glnxa64.xml", named("preferred").xml());
+  tree.scratch.write("prefs/" + selection, named("preferred").xml());
   Document gone = named("here");
   gone.installed = false;
-  tree.scratch.write("zex_C_glnxa64.xml", gone.xml());
+  tree.scratch.write(selection, gone.xml());
   const ZexOptList found = compilers.findSelectedOpts("C", u"");
   ASSERT_EQ(found.size(), 1U);
   EXPECT_EQ(found.front()->attribute(u"NAME"), u"here");
@@ -108,13 +116,13 @@ TEST_F(Discovery, CurrentFolderHidesThePreferences) {
 
 TEST_F(Discovery, OptionsFileIsTakenWhateverItsNameAndLanguage) {
   tree.scratch.write("any name", named("given", "FORTRAN").xml());
-  tree.scratch.write("zex_C_glnxa64.xml", named("here").xml());
+  tree.scratch.write(selection, named("here").xml());
   args->optionsFile = tree.scratch.path("any name");
   const ZexOptList first = compilers.findSelectedOpts("C", u"");
   EXPECT_EQ(namesOf(first), "*any name ");
   EXPECT_EQ(compilers.findSelectedOpts("C", u"").front(), first.front()) << "read twice";
   args->setupArgument = u"x";  // then -f is a destination
-  EXPECT_EQ(namesOf(compilers.findSelectedOpts("C", u"")), "*zex_C_glnxa64.xml ");
+  EXPECT_EQ(namesOf(compilers.findSelectedOpts("C", u"")), "*" + selection + " ");
 }
 
 }  // namespace

@@ -6,16 +6,19 @@
 #include "cmd/messages/ZexConfigPerTVM.hpp"
 #include "compilers/ZexCompilers.hpp"
 #include "compilers/ZexSelectedOptsPerTVM.hpp"
-#include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
 #include "support/InstalledTree.hpp"
+#include "support/texts.hpp"
 
 namespace zex_cmd {
 namespace {
 
+using zex_test::catalogue;
 using zex_test::Document;
 using zex_test::failureOf;
 using zex_test::InstalledTree;
+using zex_test::selection;
+using zex_test::selectionBackup;
 
 class Selection : public testing::Test {
  protected:
@@ -35,7 +38,7 @@ class Selection : public testing::Test {
     ZexCompilers compilers(&args);
     std::string name;
     const std::string failure =
-        failureOf([&] { name = fl::i18n::to_string(compilers.getSelectedOpt()->attribute(u"NAME")); });
+        failureOf([&] { name = zex_test::utf8(compilers.getSelectedOpt()->attribute(u"NAME")); });
     return failure == "no error" ? name : failure;
   }
 
@@ -71,9 +74,9 @@ TEST_F(Selection, ImplicitChoiceFollowsThePriorityText) {
 
 TEST_F(Selection, SelectedFileWinsEvenIfItsCompilerIsGone) {
   tree.offer("a.xml", compiler("listed", "A"));
-  tree.scratch.write("prefs/zex_C_glnxa64.xml", compiler("chosen", "Z").xml());
+  tree.scratch.write("prefs/" + selection, compiler("chosen", "Z").xml());
   EXPECT_EQ(selected(), "chosen");
-  tree.scratch.write("prefs/zex_C_glnxa64.xml", compiler("chosen", "Z", false).xml());
+  tree.scratch.write("prefs/" + selection, compiler("chosen", "Z", false).xml());
   EXPECT_EQ(selected(), "TESSEL:zex:NoCompilerFound_Win64");
   EXPECT_EQ(tree.host.warnings, std::vector<std::string>{"TESSEL:zex:Warn(\"Install chosen.\\n\")"});
 }
@@ -109,18 +112,18 @@ TEST_F(Selection, SeveralInstalledWithoutOneSelectedFail) {
 TEST_F(Selection, MergingPutsTheSelectedDocumentInThePlaceOfItsTwin) {
   tree.offer("a.xml", compiler("1", "A"));
   tree.offer("b.xml", compiler("2", "B"));
-  tree.scratch.write("prefs/zex_C_glnxa64.xml", compiler("2", "B").xml());
+  tree.scratch.write("prefs/" + selection, compiler("2", "B").xml());
   for (const char* kind : {"", "installed"}) {
     ZexCompilers compilers(&args);
-    const ZexOptList catalogue = compilers.findCatalogueOpts("C", u"", true);
+    const ZexOptList listed = compilers.findCatalogueOpts("C", u"", true);
     const ZexOptList chosen = compilers.findSelectedOpts("C", u"");
-    const ZexOptList merged = compilers.mergeOptLists(catalogue, chosen, kind);
+    const ZexOptList merged = compilers.mergeOptLists(listed, chosen, kind);
     const bool query = *kind != '\0';
-    EXPECT_EQ(merged, query ? catalogue : (ZexOptList{catalogue[0], chosen[0]}));
+    EXPECT_EQ(merged, query ? listed : (ZexOptList{listed[0], chosen[0]}));
     // Of the pair only one stays in the cache, which a compiler query reads.
-    EXPECT_EQ(compilers.cachedOpts().count(tree.scratch.path("root/bin/glnxa64/zexopts/b.xml")), query ? 1U : 0U);
-    EXPECT_EQ(compilers.cachedOpts().count(tree.scratch.path("prefs/zex_C_glnxa64.xml")), query ? 0U : 1U);
-    EXPECT_FALSE(catalogue[0]->selected) << "the priority rule must rest";
+    EXPECT_EQ(compilers.cachedOpts().count(tree.scratch.path(catalogue + "b.xml")), query ? 1U : 0U);
+    EXPECT_EQ(compilers.cachedOpts().count(tree.scratch.path("prefs/" + selection)), query ? 0U : 1U);
+    EXPECT_FALSE(listed[0]->selected) << "the priority rule must rest";
   }
 }
 
@@ -141,12 +144,12 @@ TEST_F(Selection, MergingMindsOnlyWhatIsInstalled) {
   for (const Case& row : cases) {
     const InstalledTree fresh;
     fresh.offer("a.xml", row.listed);
-    fresh.scratch.write("prefs/zex_C_glnxa64.xml", row.chosen.xml());
+    fresh.scratch.write("prefs/" + selection, row.chosen.xml());
     ZexCompilers compilers(&args);
-    const ZexOptList catalogue = compilers.findCatalogueOpts("C", u"", true);
+    const ZexOptList listed = compilers.findCatalogueOpts("C", u"", true);
     std::string names;
-    for (const auto& opt : compilers.mergeOptLists(catalogue, compilers.findSelectedOpts("C", u""), row.kind)) {
-      names += (opt->selected ? "*" : "") + fl::i18n::to_string(opt->attribute(u"NAME")) + " ";
+    for (const auto& opt : compilers.mergeOptLists(listed, compilers.findSelectedOpts("C", u""), row.kind)) {
+      names += (opt->selected ? "*" : "") + zex_test::utf8(opt->attribute(u"NAME")) + " ";
     }
     EXPECT_EQ(names, row.names) << row.what;
     EXPECT_EQ(compilers.cachedOpts().size(), row.cached) << row.what;
@@ -155,7 +158,7 @@ TEST_F(Selection, MergingMindsOnlyWhatIsInstalled) {
 
 class Upgrade : public Selection {
  protected:
-  boost::shared_ptr<ZexOpt> old(const Document& document, const std::string& file = "prefs/zex_C_glnxa64.xml") {
+  boost::shared_ptr<ZexOpt> old(const Document& document, const std::string& file = "prefs/" + selection) {
     tree.scratch.write(file, document.xml());
     return boost::make_shared<ZexOpt>(tree.scratch.path(file), "", u"", false);
   }
@@ -164,7 +167,7 @@ class Upgrade : public Selection {
 TEST_F(Upgrade, IsDueForAnOlderFileOfThePreferencesOnly) {
   const ZexCompilers compilers(&args);
   Document document = compiler("1", "A");
-  const auto here = old(document, "zex_C_glnxa64.xml");
+  const auto here = old(document, selection);
   EXPECT_FALSE(compilers.needsUpgrade(*here)) << "no twin in the preferences folder";
   EXPECT_TRUE(compilers.needsUpgrade(*old(document)));
   EXPECT_TRUE(compilers.needsUpgrade(*here)) << "treated as its twin";
@@ -194,16 +197,16 @@ TEST_F(Upgrade, TakesTheTwinTheBestOrTheOldOne) {
     for (const Document& document : row.catalogue) fresh.offer(std::to_string(index++) + ".xml", document);
     Document document = compiler("old", "A");
     document.shortName = row.shortName;
-    fresh.scratch.write("prefs/zex_C_glnxa64.xml", document.xml());
-    const auto former = boost::make_shared<ZexOpt>(fresh.scratch.path("prefs/zex_C_glnxa64.xml"), "", u"", false);
+    fresh.scratch.write("prefs/" + selection, document.xml());
+    const auto former = boost::make_shared<ZexOpt>(fresh.scratch.path("prefs/" + selection), "", u"", false);
     former->selected = true;
     ZexCompilers compilers(&args);
     const auto replacement = compilers.upgradeOpt(former);
-    EXPECT_EQ(replacement->attribute(u"NAME"), fl::i18n::to_ustring(row.replacement));
+    EXPECT_EQ(replacement->attribute(u"NAME"), zex_test::utf16(row.replacement));
     EXPECT_TRUE(replacement->selected && replacement->currentRelease);
-    EXPECT_EQ(replacement->attribute(u"ZEXOPT"), fresh.scratch.path("prefs/zex_C_glnxa64.xml"));
+    EXPECT_EQ(replacement->attribute(u"ZEXOPT"), fresh.scratch.path("prefs/" + selection));
     EXPECT_EQ(fresh.host.warnings, row.warnings);
-    EXPECT_TRUE(fresh.scratch.has("prefs/zex_C_glnxa64_backup.xml"));
+    EXPECT_TRUE(fresh.scratch.has("prefs/" + selectionBackup));
   }
 }
 

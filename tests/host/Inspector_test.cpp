@@ -11,12 +11,13 @@
 #include <utility>
 #include <vector>
 
-#include "fl/i18n/strings.hpp"
 #include "support/Scratch.hpp"
+#include "support/platform.hpp"
+#include "support/texts.hpp"
 
 namespace {
 
-using fl::i18n::to_string;
+using zex_test::utf8;
 using zexfile::Inspector;
 
 const std::string marker = "@(#)zex-record ";
@@ -97,7 +98,7 @@ struct Scratch : zex_test::ScopedVariable, zex_test::Scratch {
 /// What an inspection says, in one line.
 std::string told(const std::string& name = "product") {
   const Inspector inspector(std::filesystem::absolute(name).u16string(), false);
-  std::string text = to_string(inspector.get_embedded_version_compiler_flag());
+  std::string text = utf8(inspector.get_embedded_version_compiler_flag());
   EXPECT_EQ(inspector.needs_consistent_embedded_version(), !text.empty());
   if (inspector.has_error()) text += "error";
   if (inspector.needs_upgrade()) text += "upgrade";
@@ -170,8 +171,10 @@ TEST(Inspector, BrokenFilesDoNoHarm) {
   std::mt19937 random(20180315);
   const auto below = [&random](std::size_t end) { return random() % end; };
   const std::clock_t start = std::clock();
+  // Files cost ten times as much under Wine.
+  const std::size_t rounds = zex_test::platform.architecture == "glnxa64" ? 20'000 : 2'000;
   std::size_t stillFound = 0;
-  for (int i = 0; i < 20000; ++i) {
+  for (std::size_t round = 0; round < rounds; ++round) {
     std::string bytes = images[below(images.size())];
     for (std::size_t changes = below(6); changes > 0; --changes)
       bytes[below(below(2) != 0 ? tablesEnd : bytes.size())] = static_cast<char>(below(3) != 0 ? random() : 0xFF);
@@ -179,7 +182,7 @@ TEST(Inspector, BrokenFilesDoNoHarm) {
     if (below(16) == 0) std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<char>(random()); });
     if (!toldOf(bytes).empty()) ++stillFound;
   }
-  EXPECT_GT(stillFound, 4000U) << "hardly any file got as far as its records";
+  EXPECT_GT(stillFound, rounds / 5) << "hardly any file got as far as its records";
   EXPECT_LT(std::clock() - start, 20 * CLOCKS_PER_SEC);
 }
 

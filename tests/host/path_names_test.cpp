@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "fl/i18n/strings.hpp"
+#include "support/texts.hpp"
 
 namespace {
 
@@ -29,14 +29,14 @@ TEST(PathNames, AreTakenApartAsText) {
     EXPECT_EQ((Parts{path, extract_parent_path(path), extract_filename(path), extract_stem(path),
                      extract_extension(path)}),
               parts)
-        << fl::i18n::to_string(path);
+        << zex_test::utf8(path);
   }
 }
 
 TEST(PathNames, AreJoinedWithOneSeparator) {
   for (const auto& [folder, name] : {std::pair{u"a", u"b"}, {u"a/", u"b"}, {u"a", u"/b"}, {u"a//", u"//b"}})
-    EXPECT_EQ(concatenate_pathname(folder, name), u"a/b");
-  EXPECT_EQ(concatenate_pathname(u"/", u"b"), u"/b");
+    EXPECT_EQ(concatenate_pathname(folder, name), make_native_form(u"a/b"));
+  EXPECT_EQ(concatenate_pathname(u"/", u"b"), make_native_form(u"/b"));
   EXPECT_EQ(concatenate_pathname(u"", u"/b"), u"/b");
 }
 

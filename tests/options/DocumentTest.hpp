@@ -5,6 +5,7 @@
 #include <string>
 
 #include "options/ZexOpt.hpp"
+#include "support/FakeTool.hpp"
 #include "support/RecordingServices.hpp"
 #include "support/Scratch.hpp"
 
@@ -21,7 +22,8 @@ class DocumentTest : public testing::Test {
 
   zex_test::Scratch scratch;
   zex_test::RecordingServices host;
-  zex_test::ScopedVariable temporary{"TMPDIR", scratch.folder().c_str()};
+  zex_test::FakeTool tool;
+  zex_test::ScopedVariable temporary{"TMPDIR", scratch.folder()};
 };
 
 }  // namespace zex_cmd

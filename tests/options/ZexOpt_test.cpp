@@ -24,12 +24,12 @@ TEST_F(ZexOptTest, FiltersLetADocumentPassOrLeaveItUntried) {
   };
   for (const Case& test : cases) {
     SCOPED_TRACE(test.attributes + test.language);
-    std::filesystem::remove("ran");
+    std::filesystem::remove("tool.log");
     const ZexOpt opt = load("<config " + test.attributes +
-                                "><locationFinder><ROOT><cmdReturns name='touch ran; echo x'/></ROOT>"
+                                "><locationFinder><ROOT><cmdReturns name='tool --say x'/></ROOT>"
                                 "</locationFinder></config>",
                             test.language, test.name);
-    EXPECT_EQ(scratch.has("ran"), test.passes);
+    EXPECT_EQ(scratch.has("tool.log"), test.passes);
     EXPECT_EQ(opt.installed, test.passes);
   }
 }
@@ -39,7 +39,7 @@ TEST_F(ZexOptTest, WhatIsNoDocumentIsInvalidXml) {
   scratch.write("folder/file", "");
   for (const char* name : {"missing.xml", "open.xml", "folder"}) {
     const std::string failure = zex_test::failureOf([&] { ZexOpt(scratch.path(name), "", u"", false); });
-    EXPECT_EQ(failure, "TESSEL:zex:InvalidXML(\"" + (scratch.folder() / name).string() + "\")");
+    EXPECT_EQ(failure, "TESSEL:zex:InvalidXML(\"" + scratch.told(name) + "\")");
   }
 }
 
@@ -72,7 +72,7 @@ TEST_F(ZexOptTest, ValuesAreMadeReplacedAndRemoved) {
   opt.removeValue(u"config.vars.<xmlattr>.OPT");
   opt.removeValue(u"config.vars.<xmlattr>.ABSENT");
   EXPECT_EQ(opt.variable(u"OPT"), std::nullopt);
-  const std::string document = (scratch.folder() / "doc.xml").string();
+  const std::string document = scratch.told("doc.xml");
   EXPECT_EQ(zex_test::failureOf([&] { opt.requiredValue(u"config.vars.<xmlattr>.OPT"); }),
             "TESSEL:zex:ErrXMLAttr(\"config.vars.<xmlattr>.OPT\", \"" + document + "\")");
 }

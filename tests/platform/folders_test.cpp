@@ -16,7 +16,7 @@ TEST(Folders, PreferencesComeFromAVariableOnlyIfItsFolderIsThere) {
   zex_test::RecordingServices host;
   const zex_test::Scratch scratch;
   host.preferences = u"/of/the/host";
-  const zex_test::ScopedVariable variable("TESSEL_PREFDIR", (scratch.folder() / "prefs").c_str());
+  const zex_test::ScopedVariable variable("TESSEL_PREFDIR", scratch.folder() / "prefs");
   EXPECT_EQ(preferencesFolder(), u"/of/the/host");
   scratch.write("prefs/a.xml", "");
   EXPECT_EQ(preferencesFolder(), scratch.path("prefs"));

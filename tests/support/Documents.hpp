@@ -4,8 +4,7 @@
 
 namespace zex_test {
 
-/// An option document for tests. Its compiler is a shell script below the scratch folder, so that whole builds run
-/// without a real one.
+/// An option document for tests. Its compiler is the stand-in tool, so that whole builds run without a real one.
 struct Document {
   std::string name = "Fake C";
   std::string shortName = "fake";
@@ -23,10 +22,5 @@ struct Document {
 
   std::string xml() const;
 };
-
-/// A tool that stands in for a compiler and linker. It appends its arguments to the file "tool.log" in the current
-/// folder and writes the file behind "-o"; what it does beside that is told by words in the source files: "FAIL"
-/// makes it fail with an error text, "SILENT" fail without one, "WARN" print a warning.
-std::string fakeToolScript();
 
 }  // namespace zex_test

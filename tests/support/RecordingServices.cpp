@@ -4,16 +4,10 @@
 #include <iterator>
 
 #include "fl/i18n/MessageCatalog.hpp"
-#include "fl/i18n/strings.hpp"
 #include "korvane/String.hpp"
 #include "standalone/StandaloneServices.hpp"
-
-/// The one place where a leak checker is told of what the Ada route deliberately leaves to the host. The checker
-/// looks for this function by its name.
-// NOLINTNEXTLINE(bugprone-reserved-identifier)
-extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions() {
-  return "leak:zex_cmd::runAdaRoute\n";
-}
+#include "support/platform.hpp"
+#include "support/texts.hpp"
 
 namespace zex_test {
 
@@ -22,11 +16,11 @@ namespace {
 std::string textOrMark(const zxArray* value) {
   if (!Korvane::String::isString(value)) return "?";
   const std::optional<fl::ustring> text = Korvane::String::getString(value);
-  return text ? fl::i18n::to_string(*text) : "missing";
+  return text ? utf8(*text) : "missing";
 }
 
 std::string inPseudoLocale(const resource_core::BaseMsgID& record) {
-  return fl::i18n::to_string(fl::i18n::MessageCatalog::get_message(record, fl::i18n::ZwLocale("id")));
+  return toldMessage(utf8(fl::i18n::MessageCatalog::get_message(record, fl::i18n::ZwLocale("id"))));
 }
 
 }  // namespace
@@ -35,6 +29,10 @@ RecordingServices::RecordingServices() : previous_(host::installServices(this)) 
 
 RecordingServices::~RecordingServices() {
   host::installServices(previous_);
+}
+
+void RecordingServices::write(std::string_view text) {
+  output += told(fromNative(text));
 }
 
 void RecordingServices::showWarning(const resource_core::BaseMsgID& record) {
@@ -47,7 +45,7 @@ void RecordingServices::noteError(const foundation::core::except::IUserException
 }
 
 host::ShellResult RecordingServices::runShellLine(const fl::ustring& line, bool calledFromHost) {
-  shellLines.push_back(fl::i18n::to_string(line));
+  shellLines.push_back(utf8(line));
   shellFlags.push_back(calledFromHost);
   return host::standalone::StandaloneServices().runShellLine(line, calledFromHost);
 }

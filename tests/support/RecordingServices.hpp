@@ -17,7 +17,7 @@ class RecordingServices : public host::Services {
   RecordingServices();
   ~RecordingServices() override;
 
-  std::string output;                 ///< all that was written
+  std::string output;                 ///< all that was written, with paths as tests write them
   std::vector<std::string> warnings;  ///< rendered in the pseudo-locale
   std::vector<std::string> errors;    ///< identifiers of the errors that were announced
   bool hot = false;
@@ -31,7 +31,7 @@ class RecordingServices : public host::Services {
   /// Fields of the exception object that every function but "getfield" answers with; nothing: all goes well.
   std::optional<host::standalone::HostValue::Fields> failure;
 
-  void write(std::string_view text) override { output += text; }
+  void write(std::string_view text) override;
   bool outputIsHot() const override { return hot; }
   void showWarning(const resource_core::BaseMsgID& record) override;
   void noteError(const foundation::core::except::IUserException& error) override;

@@ -1,12 +1,13 @@
 #include "support/Scratch.hpp"
 
-#include <stdlib.h>
-
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
+#include <random>
+#include <utility>
+
+#include "support/platform.hpp"
+#include "support/texts.hpp"
 
 namespace zex_test {
 
@@ -15,9 +16,17 @@ namespace fs = std::filesystem;
 namespace {
 
 fs::path freshFolder() {
-  std::string pattern = (fs::temp_directory_path() / "zex test é XXXXXX").string();
-  if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no scratch folder");
-  return fs::canonical(pattern);
+  std::random_device random;
+  for (;;) {
+    const std::string number = std::to_string(100'000 + random() % 900'000);
+    const fs::path folder = fs::canonical(fs::temp_directory_path()) / utf16("zex test é " + number);
+    if (fs::create_directory(folder)) return folder;
+  }
+}
+
+std::optional<std::string> textOrNone(const char* text) {
+  if (text == nullptr) return std::nullopt;
+  return text;
 }
 
 }  // namespace
@@ -33,48 +42,49 @@ Scratch::~Scratch() {
 }
 
 fl::ustring Scratch::path(const std::string& name) const {
-  return name.empty() ? folder_.u16string() : (folder_ / name).u16string();
+  return name.empty() ? folder_.u16string() : (folder_ / utf16(name)).make_preferred().u16string();
+}
+
+std::string Scratch::told(const std::string& name) const {
+  return zex_test::told(utf8(path(name)));
 }
 
 void Scratch::write(const std::string& name, const std::string& content) const {
-  const fs::path file = folder_ / name;
+  const fs::path file = folder_ / utf16(name);
   fs::create_directories(file.parent_path());
   std::ofstream(file, std::ios::binary) << content;
 }
 
 std::string Scratch::read(const std::string& name) const {
-  std::ifstream stream(folder_ / name, std::ios::binary);
+  std::ifstream stream(folder_ / utf16(name));
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 bool Scratch::has(const std::string& name) const {
-  return fs::exists(fs::symlink_status(folder_ / name));
+  return fs::exists(fs::symlink_status(folder_ / utf16(name)));
 }
 
 std::vector<std::string> Scratch::names(const std::string& below) const {
   std::vector<std::string> result;
-  for (const auto& entry : fs::directory_iterator(folder_ / below)) result.push_back(entry.path().filename());
+  for (const auto& entry : fs::directory_iterator(folder_ / utf16(below)))
+    result.push_back(entry.path().filename().string());
   std::sort(result.begin(), result.end());
   return result;
 }
 
-ScopedVariable::ScopedVariable(std::string name, const char* value) : name_(std::move(name)) {
-  const char* old = std::getenv(name_.c_str());
-  wasSet_ = old != nullptr;
-  if (wasSet_) former_ = old;
-  if (value == nullptr) {
-    unsetenv(name_.c_str());
-  } else {
-    setenv(name_.c_str(), value, 1);
-  }
+ScopedVariable::ScopedVariable(std::string name, const std::optional<std::string>& value)
+    : name_(std::move(name)), former_(variable(name_)) {
+  setVariable(name_, value);
 }
 
+ScopedVariable::ScopedVariable(std::string name, const char* value)
+    : ScopedVariable(std::move(name), textOrNone(value)) {}
+
+ScopedVariable::ScopedVariable(std::string name, const fs::path& value)
+    : ScopedVariable(std::move(name), std::optional(utf8(value.u16string()))) {}
+
 ScopedVariable::~ScopedVariable() {
-  if (wasSet_) {
-    setenv(name_.c_str(), former_.c_str(), 1);
-  } else {
-    unsetenv(name_.c_str());
-  }
+  setVariable(name_, former_);
 }
 
 }  // namespace zex_test

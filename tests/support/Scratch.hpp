@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,9 +20,10 @@ class Scratch {
 
   const std::filesystem::path& folder() const { return folder_; }
   fl::ustring path(const std::string& name = {}) const;  ///< full path of a name below the folder
+  std::string told(const std::string& name = {}) const;  ///< the same, as tests write paths
 
   void write(const std::string& name, const std::string& content) const;  ///< makes parent folders too
-  std::string read(const std::string& name) const;
+  std::string read(const std::string& name) const;                        ///< each line ends in "\n"
   bool has(const std::string& name) const;
   std::vector<std::string> names(const std::string& below = ".") const;  ///< sorted entries of a folder
 
@@ -34,14 +36,16 @@ class Scratch {
 class ScopedVariable {
  public:
   ScopedVariable(std::string name, const char* value);
+  ScopedVariable(std::string name, const std::filesystem::path& value);
   ~ScopedVariable();
   ScopedVariable(const ScopedVariable&) = delete;
   ScopedVariable& operator=(const ScopedVariable&) = delete;
 
  private:
+  ScopedVariable(std::string name, const std::optional<std::string>& value);
+
   std::string name_;
-  bool wasSet_;
-  std::string former_;
+  std::optional<std::string> former_;
 };
 
 }  // namespace zex_test

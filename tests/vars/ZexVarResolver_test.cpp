@@ -5,10 +5,12 @@
 #include <boost/make_shared.hpp>
 
 #include "args/ZexArgs.hpp"
-#include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
+#include "platform/quoting.hpp"
 #include "support/RecordingServices.hpp"
 #include "support/Scratch.hpp"
+#include "support/platform.hpp"
+#include "support/texts.hpp"
 
 namespace zex_cmd {
 namespace {
@@ -44,8 +46,8 @@ class ZexVarResolverTest : public testing::Test {
     EXPECT_EQ(failure, "no error");
     for (const std::string& expected : values) {
       const std::string name = expected.substr(0, expected.find('='));
-      const ustring value = opt->variable(fl::i18n::to_ustring(name)).value_or(u"-");
-      EXPECT_EQ(name + "=" + fl::i18n::to_string(value), expected);
+      const ustring value = opt->variable(zex_test::utf16(name)).value_or(u"-");
+      EXPECT_EQ(name + "=" + zex_test::told(zex_test::utf8(value)), expected);
     }
   }
 
@@ -81,7 +83,7 @@ TEST_F(ZexVarResolverTest, FilesFollowSourcesAndObjects) {
 }
 
 TEST_F(ZexVarResolverTest, OutputSwitchesMoveTheProduct) {
-  const std::string here = scratch.folder().string();
+  const std::string here = scratch.told();
   args->compileOnly = true;
   args->output = u"made/out/name.ext";
   resolveWith("");
@@ -100,8 +102,9 @@ TEST_F(ZexVarResolverTest, ArgumentsGoInFrontOfTheDocumentsText) {
   args->libraries = u" \"m\"";
   args->exLibraries = u" \"x.a\" \"y z.a\" \"it's.a\"";
   resolveWith("INCLUDES='-I.' USERLIBS='-lc'");
+  const std::string odd = zex_test::utf8(quoteInCommand(u"it's.a"));
   expect({"INCLUDES=-I\"/a\" -I\"/b c\"  -I.", "DEFINES=-DONE  -DMSG=\"a b\"  -UTWO  -DÉ\U0001F600   ",
-          "USERLIBS=x.a \"y z.a\" \"it's.a\"  -lm --as=m   \"-L/l 1\"   -lc"});
+          "USERLIBS=x.a \"y z.a\" " + odd + "  -lm --as=m   \"-L/l 1\"   -lc"});
 
   // Without arguments the target needs neither a formatter nor a variable.
   *args = ZexArgs();

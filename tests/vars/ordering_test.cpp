@@ -2,10 +2,10 @@
 
 #include <gmock/gmock.h>
 
-#include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
 #include "support/RecordingServices.hpp"
 #include "support/Scratch.hpp"
+#include "support/texts.hpp"
 
 namespace zex_cmd {
 namespace {
@@ -21,7 +21,7 @@ std::string orderOf(const std::string& variables, const std::string& environment
     std::vector<ustring> listed = opt.attributePaths(u"config.env");
     for (const ustring& path : opt.attributePaths(u"config.vars")) listed.push_back(path);
     for (const std::size_t index : orderVariables(opt, listed)) {
-      result += fl::i18n::to_string(shortName(listed[index])) + " ";
+      result += zex_test::utf8(shortName(listed[index])) + " ";
     }
   });
   return failure == "no error" ? result : failure;

@@ -74,7 +74,7 @@ int started(std::wstring command, const std::wstring& output, const std::wstring
   PROCESS_INFORMATION process{};
   if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process) ==
       0) {
-    const std::string words = "the program is not recognized\r\n";
+    const std::string words = "the program is not recognized: " + std::to_string(GetLastError()) + "\r\n";
     DWORD written = 0;
     WriteFile(startup.hStdError, words.data(), static_cast<DWORD>(words.size()), &written, nullptr);
     return badLine;

@@ -1,13 +1,12 @@
-#include "standalone/ada_builder.hpp"
-
 #include <dlfcn.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "fl/i18n/strings.hpp"
+#include "standalone/ada_builder.hpp"
 #include "standalone/host_functions.hpp"
 #include "support/RecordingServices.hpp"
 #include "support/Scratch.hpp"
+#include "support/texts.hpp"
 
 namespace {
 
@@ -15,7 +14,7 @@ using fl::ustring;
 
 class AdaBuilder : public testing::Test {
  protected:
-  AdaBuilder() : temporary("TMPDIR", (scratch.folder() / "tmp").c_str()) {
+  AdaBuilder() : temporary("TMPDIR", scratch.folder() / "tmp") {
     std::filesystem::create_directory(scratch.folder() / "tmp");
   }
   ~AdaBuilder() override { EXPECT_TRUE(scratch.names("tmp").empty()) << "a temporary folder stays"; }
@@ -83,7 +82,7 @@ TEST_F(AdaBuilderWithGnat, ADryRunPrintsWhatBuildsWhereItIsTold) {
       build({u"src/sums.adb", u"-n", u"-ada", includeFolder, u"-OUTPUT", u"named.x", u"-outdir", u"új it's"}),
       "built");
   EXPECT_FALSE(scratch.has("új it's"));
-  EXPECT_EQ(host.runShellLine(fl::i18n::to_ustring(host.output), true).status, 0);
+  EXPECT_EQ(host.runShellLine(zex_test::utf16(host.output), true).status, 0);
   EXPECT_EQ(called("új it's/named.zexa64", 2), 5);
   std::filesystem::remove_all(scratch.folder() / "tmp");
   std::filesystem::create_directory(scratch.folder() / "tmp");
@@ -105,7 +104,7 @@ TEST_F(AdaBuilder, RefusesWhatItDoesNotKnowAndTellsThatGnatIsMissing) {
       {{u"-ada", u"a.adb", u"-output"}, "TESSEL:host:AdaValueMissing"},
   };
   for (const auto& [arguments, identifier] : cases) {
-    EXPECT_EQ(build(arguments), identifier) << fl::i18n::to_string(arguments.back());
+    EXPECT_EQ(build(arguments), identifier) << zex_test::utf8(arguments.back());
   }
   EXPECT_TRUE(host.shellLines.empty());
   const zex_test::ScopedVariable path("PATH", "/nowhere");

@@ -1,13 +1,12 @@
-#include "platform/ShellCommand.hpp"
-
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 
 #include <csignal>
 
-#include "fl/i18n/strings.hpp"
+#include "platform/ShellCommand.hpp"
 #include "support/RecordingServices.hpp"
 #include "support/Scratch.hpp"
+#include "support/texts.hpp"
 
 namespace zex_cmd {
 namespace {
@@ -17,7 +16,7 @@ using testing::ElementsAre;
 class ShellCommand : public testing::Test {
  protected:
   zex_test::Scratch scratch;
-  zex_test::ScopedVariable tmpdir{"TMPDIR", scratch.folder().c_str()};
+  zex_test::ScopedVariable tmpdir{"TMPDIR", scratch.folder()};
   zex_test::RecordingServices host;
   ustring output = u"old", errors = u"old";
 };
@@ -33,7 +32,7 @@ TEST_F(ShellCommand, TakesBothStreamsLineByLineAndTheStatus) {
 
 TEST_F(ShellCommand, ShellsOwnWordsLoseScriptAndLine) {
   EXPECT_EQ(runShellCommand(u"no_such_tool_of_zex", output, errors, false), 127);
-  EXPECT_THAT(fl::i18n::to_string(errors), testing::MatchesRegex(" no_such_tool_of_zex: .*not found\n"));
+  EXPECT_THAT(zex_test::utf8(errors), testing::MatchesRegex(" no_such_tool_of_zex: .*not found\n"));
 }
 
 TEST_F(ShellCommand, HalfAScriptIsNotRun) {

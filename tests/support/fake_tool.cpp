@@ -1,0 +1,105 @@
+// The stand-in tool; support/FakeTool.hpp tells what it does.
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "command_line.hpp"
+#include "support/texts.hpp"
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+std::filesystem::path named(const std::string& name) {
+  return zex_test::utf16(name);
+}
+
+std::string contentOf(const std::string& name) {
+  std::ifstream stream(named(name), std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+bool holds(const std::string& text, const char* word) {
+  return text.find(word) != std::string::npos;
+}
+
+void keepLog(const Words& words) {
+  std::ofstream log("tool.log", std::ios::binary | std::ios::app);
+  for (const std::string& word : words) log << (&word == &words.front() ? "" : " ") << word;
+  log << '\n';
+}
+
+/// Parts of a response file: between blanks, with double quotes around what holds some.
+Words partsOf(const std::string& text) {
+  Words parts(1);
+  bool quoted = false;
+  for (const char unit : text) {
+    if (unit == '"') {
+      quoted = !quoted;
+    } else if (unit == ' ' && !quoted) {
+      parts.emplace_back();
+    } else {
+      parts.back() += unit;
+    }
+  }
+  std::erase(parts, "");
+  return parts;
+}
+
+std::string behind(const Words& words, const char* mark) {
+  for (std::size_t index = 1; index < words.size(); ++index) {
+    if (words[index - 1] == mark) return words[index];
+  }
+  return {};
+}
+
+int compileOrLink(const Words& words) {
+  const std::string source = contentOf(behind(words, "-c"));
+  if (holds(source, "SILENT")) return 3;
+  if (holds(source, "FAIL")) {
+    std::cout << "out\n";
+    std::cerr << "bad source\n";
+    return 1;
+  }
+  if (holds(source, "WARN")) {
+    std::cerr << "careful\n";
+    std::cout << "detail\n";
+  }
+  return std::ofstream(named(behind(words, "-o"))) << "made\n" ? 0 : 2;
+}
+
+int headersInWrongOrder(const Words& words) {
+  if (words.back() == "-DZX_COMPAT_32") return 0;
+  std::cout << "tzwtypesbeforezimstrucdetected\n";
+  return 1;
+}
+
+int run(Words words) {
+  const std::string first = words.empty() ? "" : words.front();
+  if (first == "--version" || first == "-dumpversion") {
+    std::cout << contentOf("tool.version");
+    return 0;
+  }
+  keepLog(words);
+  if (first == "--exit") return std::stoi(words.at(1));
+  if (first == "--order") return headersInWrongOrder(words);
+  if (first == "--say") {
+    for (std::size_t index = 1; index < words.size(); ++index)
+      std::cout << fl::i18n::to_string(zex_test::utf16(words[index])) << '\n';
+    return 0;
+  }
+  return compileOrLink(first.starts_with('@') ? partsOf(contentOf(first.substr(1))) : words);
+}
+
+}  // namespace
+
+int main(int count, char** values) {
+  Words words;
+  for (const fl::ustring& argument : tool::commandLineArguments(count, values)) {
+    words.push_back(zex_test::utf8(argument));
+  }
+  return run(std::move(words));
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zex_test {
+
+/// What the driver does differently on the platform that the tests run on.
+struct Platform {
+  std::string_view architecture;
+  std::string_view drive;                ///< of the scratch folder, ahead of the first "/" of a path
+  std::string_view listSeparator;        ///< between the folders of a search path
+  std::string_view joinedToNone;         ///< what is put behind a value of the environment that was not set before
+  std::string_view program;              ///< what the names of programs end in
+  std::u16string_view quotedInCommands;  ///< what the shell acts upon also within a path
+  std::string_view closedFolder;         ///< not even the super-user can make a file there
+  bool refusesShellSigns;    ///< a path with a double quote or "$", which no command can carry, is invalid
+  bool keepsEmptyVariables;  ///< a variable may be set to the empty text
+};
+extern const Platform platform;
+
+/// Paths as the tests write them: always with "/". A message that is shown as its identifier and arguments writes
+/// a backslash twice, and others that are none of a path.
+std::string told(std::string text);
+std::string toldMessage(std::string text);
+
+/// From the native 8-bit encoding to UTF-8; bytes that are no text stay where that is UTF-8 itself.
+std::string fromNative(std::string_view bytes);
+
+std::optional<std::string> variable(const std::string& name);
+
+/// What a variable holds that was set to the empty text: where that can be, it is not removed by it.
+inline std::optional<std::string> emptied() {
+  return platform.keepsEmptyVariables ? std::optional<std::string>("") : std::nullopt;
+}
+
+/// Nothing unsets it.
+void setVariable(const std::string& name, const std::optional<std::string>& value);
+
+}  // namespace zex_test
