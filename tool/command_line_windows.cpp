@@ -6,7 +6,7 @@
 #include <new>
 
 #include "command_line.hpp"
-#include "standalone/wide.hpp"
+#include "standalone/texts/wide.hpp"
 
 namespace tool {
 

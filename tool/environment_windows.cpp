@@ -7,7 +7,7 @@
 #include "fl/filesystem/path_names.hpp"
 #include "fl/i18n/environment.hpp"
 #include "fl/i18n/strings.hpp"
-#include "standalone/wide.hpp"
+#include "standalone/texts/wide.hpp"
 
 namespace tool {
 

@@ -13,7 +13,7 @@
 #include "foundation/core/except/IException.hpp"
 #include "korvane/TException.hpp"
 #include "standalone/StandaloneServices.hpp"
-#include "standalone/interrupts.hpp"
+#include "standalone/shell/interrupts.hpp"
 
 namespace tool {
 

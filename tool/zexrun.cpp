@@ -9,8 +9,8 @@
 #include "output_text.hpp"
 #include "printed_values.hpp"
 #include "program.hpp"
-#include "standalone/LoadedProducts.hpp"
-#include "standalone/interrupts.hpp"
+#include "standalone/products/LoadedProducts.hpp"
+#include "standalone/shell/interrupts.hpp"
 #include "values.hpp"
 #include "zx/runtime.hpp"
 

@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "Array.hpp"
-#include "standalone/utf.hpp"
+#include "standalone/texts/utf.hpp"
 #include "talk.hpp"
 
 namespace {

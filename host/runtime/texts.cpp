@@ -1,7 +1,7 @@
 #include <utility>
 
 #include "Array.hpp"
-#include "standalone/utf.hpp"
+#include "standalone/texts/utf.hpp"
 #include "talk.hpp"
 
 namespace {

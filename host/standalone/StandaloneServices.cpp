@@ -9,11 +9,11 @@
 #include "fl/i18n/MessageCatalog.hpp"
 #include "fl/i18n/environment.hpp"
 #include "fl/i18n/strings.hpp"
-#include "standalone/host_functions.hpp"
-#include "standalone/interrupts.hpp"
-#include "standalone/locale_name.hpp"
+#include "standalone/calls/host_functions.hpp"
+#include "standalone/files/separators.hpp"
 #include "standalone/places.hpp"
-#include "standalone/separators.hpp"
+#include "standalone/shell/interrupts.hpp"
+#include "standalone/texts/locale_name.hpp"
 
 namespace host::standalone {
 

@@ -5,7 +5,7 @@
 #include "fl/filesystem/exceptions.hpp"
 #include "fl/filesystem/path_names.hpp"
 #include "fl/i18n/environment.hpp"
-#include "standalone/native_path.hpp"
+#include "standalone/files/native_path.hpp"
 #include "standalone/places.hpp"
 
 namespace host::standalone {

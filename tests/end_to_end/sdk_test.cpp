@@ -3,7 +3,7 @@
 #include "cmd/ZexCmdFactory.hpp"
 #include "end_to_end/EndToEnd.hpp"
 #include "korvane/TException.hpp"
-#include "standalone/LoadedProducts.hpp"
+#include "standalone/products/LoadedProducts.hpp"
 #include "support/RecordingServices.hpp"
 #include "zex.h"
 

@@ -2,8 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "standalone/ada_builder.hpp"
-#include "standalone/host_functions.hpp"
+#include "standalone/ada/ada_builder.hpp"
+#include "standalone/calls/host_functions.hpp"
 #include "support/RecordingServices.hpp"
 #include "support/Scratch.hpp"
 #include "support/texts.hpp"

@@ -8,7 +8,7 @@
 #include <functional>
 
 #include "standalone/StandaloneServices.hpp"
-#include "standalone/interrupts.hpp"
+#include "standalone/shell/interrupts.hpp"
 #include "support/Scratch.hpp"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "host/Services.hpp"
-#include "standalone/HostValue.hpp"
+#include "standalone/calls/HostValue.hpp"
 
 namespace zex_test {
 

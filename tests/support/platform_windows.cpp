@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "fl/i18n/strings.hpp"
-#include "standalone/wide.hpp"
+#include "standalone/texts/wide.hpp"
 #include "support/platform.hpp"
 #include "support/texts.hpp"
 

@@ -1,0 +1,10 @@
+#include "standalone/ada/ada_builder.hpp"
+#include "standalone/calls/host_functions.hpp"
+
+namespace host::standalone {
+
+void buildAda(Services& /*services*/, const std::vector<fl::ustring>& /*arguments*/) {
+  throw HostFunctionFailure("TESSEL:host:AdaUnavailable", u"Ada packages cannot be built on Windows yet.");
+}
+
+}  // namespace host::standalone

@@ -1,0 +1,188 @@
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <mutex>
+#include <optional>
+#include <string>
+
+#include "fl/i18n/strings.hpp"
+#include "standalone/StandaloneServices.hpp"
+#include "standalone/shell/SignalForwarding.hpp"
+#include "standalone/shell/interrupts.hpp"
+#include "standalone/texts/utf.hpp"
+
+extern char** environ;  // NOLINT(readability-redundant-declaration): not every system declares it
+
+namespace host::standalone {
+
+namespace {
+
+int openUnnamedIn(const std::string& folder) {
+  std::string name = folder + "/zex_XXXXXX";
+  const int descriptor = mkostemp(name.data(), O_CLOEXEC);
+  if (descriptor >= 0) unlink(name.c_str());
+  return descriptor;
+}
+
+/// In the first folder that takes it, in the order of the driver's own temporary files. -1: errno says why not.
+int openUnnamed() {
+  for (const char* variable : {"TMPDIR", "TMP", "TEMP"}) {
+    const char* const folder = std::getenv(variable);
+    if (folder == nullptr || *folder == '\0') continue;
+    if (const int descriptor = openUnnamedIn(folder); descriptor >= 0) return descriptor;
+  }
+  return openUnnamedIn(P_tmpdir);
+}
+
+/// An unnamed file that takes one output stream. A pipe would keep us waiting for a child that the line leaves in
+/// the background.
+class CaptureFile {
+ public:
+  CaptureFile() {
+    const int opened = openUnnamed();
+    // Above the three standard ones: in a process with one of those closed, the file could have taken its place.
+    if (opened >= 0) descriptor_ = fcntl(opened, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    if (descriptor_ < 0) error_ = errno;
+    if (opened >= 0) close(opened);
+  }
+  ~CaptureFile() {
+    if (descriptor_ >= 0) close(descriptor_);
+  }
+  CaptureFile(const CaptureFile&) = delete;
+  CaptureFile& operator=(const CaptureFile&) = delete;
+
+  int descriptor() const { return descriptor_; }
+  int error() const { return error_; }  ///< why there is no file, or 0
+
+  std::string content() const {
+    std::string text;
+    std::array<char, 65536> block;
+    for (;;) {
+      const ssize_t count = pread(descriptor_, block.data(), block.size(), static_cast<off_t>(text.size()));
+      if (count < 0 && errno == EINTR) continue;
+      if (count <= 0) return text;
+      text.append(block.data(), static_cast<std::size_t>(count));
+    }
+  }
+
+ private:
+  int descriptor_ = -1;
+  int error_ = 0;
+};
+
+/// What the shell starts with, beside the line: its standard streams, its signals and a process group of its own.
+class SpawnSettings {
+ public:
+  SpawnSettings(const CaptureFile& output, const CaptureFile& errors, const SignalForwarding& forwarding) {
+    posix_spawn_file_actions_init(&files_);
+    posix_spawn_file_actions_addopen(&files_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_adddup2(&files_, output.descriptor(), STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&files_, errors.descriptor(), STDERR_FILENO);
+
+    sigset_t signals;
+    sigemptyset(&signals);
+    posix_spawnattr_init(&attributes_);
+    posix_spawnattr_setsigmask(&attributes_, &signals);
+    sigfillset(&signals);
+    for (const int signal : SignalForwarding::signals) {
+      if (forwarding.isIgnored(signal)) sigdelset(&signals, signal);
+    }
+    posix_spawnattr_setsigdefault(&attributes_, &signals);
+    posix_spawnattr_setpgroup(&attributes_, 0);
+    posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+  }
+  ~SpawnSettings() {
+    posix_spawnattr_destroy(&attributes_);
+    posix_spawn_file_actions_destroy(&files_);
+  }
+  SpawnSettings(const SpawnSettings&) = delete;
+  SpawnSettings& operator=(const SpawnSettings&) = delete;
+
+  const posix_spawn_file_actions_t* files() const { return &files_; }
+  const posix_spawnattr_t* attributes() const { return &attributes_; }
+
+ private:
+  posix_spawn_file_actions_t files_;
+  posix_spawnattr_t attributes_;
+};
+
+ShellResult withoutText(int status) {
+  return {status, {}};
+}
+
+int statusAfterDeathBy(int signal) {
+  return 128 + signal;
+}
+
+/// Waits without reaping, so that the process number stays the line's own until no signal is sent to it any more.
+int waitForEnd(pid_t child) {
+  siginfo_t ignored;
+  while (waitid(P_PID, static_cast<id_t>(child), &ignored, WEXITED | WNOWAIT) != 0) {
+    if (errno != EINTR) return errno;
+  }
+  return 0;
+}
+
+/// Exit status of a child that has ended, as a shell tells it.
+int reap(pid_t child) {
+  int status = 0;
+  while (waitpid(child, &status, 0) < 0) {
+    if (errno != EINTR) return errno;
+  }
+  return WIFSIGNALED(status) ? statusAfterDeathBy(WTERMSIG(status)) : WEXITSTATUS(status);
+}
+
+/// Starts the line and sees it through; the status is the shell's, or the system's error number.
+ShellResult run(StandaloneServices& services, std::string line) {
+  SignalForwarding forwarding;
+  // Looked at after the handlers stand: what comes later is forwarded.
+  services.stopIfInterrupted();
+
+  const CaptureFile output;
+  if (output.error() != 0) return withoutText(output.error());
+  const CaptureFile errors;
+  if (errors.error() != 0) return withoutText(errors.error());
+
+  // "--", or a line that begins with a dash would be taken for options.
+  std::string shell = "sh", command = "-c", noMoreOptions = "--";
+  char* const arguments[] = {shell.data(), command.data(), noMoreOptions.data(), line.data(), nullptr};
+  const SpawnSettings settings(output, errors, forwarding);
+  pid_t child = 0;
+  if (const int error =
+          posix_spawn(&child, "/bin/sh", settings.files(), settings.attributes(), arguments, environ))
+    return withoutText(error);
+
+  forwarding.to(child);
+  const int waitError = waitForEnd(child);
+  forwarding.stop();
+  const int status = waitError != 0 ? waitError : reap(child);
+
+  std::string text = output.content();
+  if (status != 0) text += errors.content();
+  return {status, fl::i18n::to_ustring(text)};
+}
+
+}  // namespace
+
+ShellResult StandaloneServices::runShellLine(const fl::ustring& line, bool /*calledFromHost*/) {
+  // A line with a replaced or cut-off character would be another command.
+  std::optional<std::string> bytes = toUtf8Exactly(line);
+  if (!bytes) return withoutText(EILSEQ);
+  if (bytes->find('\0') != std::string::npos) return withoutText(EINVAL);
+
+  static std::mutex oneAtATime;
+  const std::lock_guard lock(oneAtATime);
+  std::fflush(stdout);
+  const ShellResult result = run(*this, std::move(*bytes));
+  // A line that an interrupt ended must not pass for one that failed by itself.
+  stopIfInterrupted();
+  return result;
+}
+
+}  // namespace host::standalone
