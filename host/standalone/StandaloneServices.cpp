@@ -11,9 +11,9 @@
 #include "fl/i18n/strings.hpp"
 #include "standalone/calls/host_functions.hpp"
 #include "standalone/files/separators.hpp"
+#include "standalone/messages/locale_name.hpp"
 #include "standalone/places.hpp"
 #include "standalone/shell/interrupts.hpp"
-#include "standalone/texts/locale_name.hpp"
 
 namespace host::standalone {
 

@@ -12,7 +12,7 @@
 #include "fl/i18n/strings.hpp"
 #include "host/Services.hpp"
 #include "resource_core/BaseMsgID.hpp"
-#include "standalone/texts/CatalogueFile.hpp"
+#include "standalone/messages/CatalogueFile.hpp"
 
 namespace fl::i18n {
 

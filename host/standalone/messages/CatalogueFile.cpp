@@ -1,4 +1,4 @@
-#include "standalone/texts/CatalogueFile.hpp"
+#include "standalone/messages/CatalogueFile.hpp"
 
 #include <algorithm>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "standalone/texts/locale_name.hpp"
+#include "standalone/messages/locale_name.hpp"
 
 #include "fl/i18n/environment.hpp"
 #include "fl/i18n/strings.hpp"
