@@ -97,8 +97,8 @@ TEST_F(EndToEnd, ObjectsAreLeftBesideTheUserAndLinkedLater) {
 TEST_F(EndToEnd, ClientsGetAProgramOrAPlainSharedLibrary) {
   write("main.c", "#define ZX_HOST\n#include <zex.h>\nint main(void) { return (int)zxNumber(zxMakeReal(9)); }\n");
   build("-client ENGINE main.c", {"main"});
-  // The options serve a sanitizer build alone: the program itself is not instrumented, its run-time library is, and it
-  // leaves its array to the end of the process.
+  // The options serve a sanitizer build alone: the program itself is not instrumented, its run-time library is,
+  // and it leaves its array to the end of the process.
   EXPECT_EQ(shell("ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=0 ./main").status, 9);
   EXPECT_THAT(shell("ldd ./main").out, testing::HasSubstr("libzx.so => " ZEX_TREE))
       << "finds the library by itself";
