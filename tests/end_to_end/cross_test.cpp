@@ -37,7 +37,7 @@ class Cross : public EndToEnd {
     fs::create_directories(ZEX_WINE_FOLDER);
     const std::string environment = "export WINEPREFIX='" ZEX_WINE_FOLDER
                                     "' WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='"
-                                    " LC_ALL=C.UTF-8 TMPDIR=; ";
+                                    " LC_ALL=C.UTF-8 TMPDIR=/tmp; ";
     const std::string made = "'" ZEX_WINE_FOLDER "/made'";
     write("../begin.sh",
           "wineserver --persistent=60\ntest -e " + made + " || wineboot --init && touch " + made + "\n");
