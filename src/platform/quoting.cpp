@@ -1,5 +1,7 @@
 #include "platform/quoting.hpp"
 
+#include "platform/shell_signs.hpp"
+
 namespace zex_cmd {
 
 namespace {
@@ -10,6 +12,22 @@ bool standsBetween(const ustring& text, char16_t mark) {
 
 ustring between(const ustring& text, char16_t mark) {
   return mark + text + mark;
+}
+
+/// Whether one of the characters stands outside the double quotes that the text has. A quote that is never closed
+/// encloses nothing.
+bool holdsOutsideQuotes(const ustring& text, fl::ustring_view characters) {
+  const std::size_t lastQuote = text.rfind(u'"');
+  bool insideQuotes = false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == u'"') {
+      insideQuotes = !insideQuotes;
+      continue;
+    }
+    const bool neverClosed = lastQuote == ustring::npos || lastQuote < i;
+    if (characters.find(text[i]) != fl::ustring_view::npos && (!insideQuotes || neverClosed)) return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -27,22 +45,13 @@ ustring quoteAlways(const ustring& text) {
   return isQuoted(text) ? text : between(text, u'"');
 }
 
-bool holdsOutsideQuotes(const ustring& text, fl::ustring_view characters) {
-  const std::size_t lastQuote = text.rfind(u'"');
-  bool insideQuotes = false;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == u'"') {
-      insideQuotes = !insideQuotes;
-      continue;
-    }
-    const bool neverClosed = lastQuote == ustring::npos || lastQuote < i;
-    if (characters.find(text[i]) != fl::ustring_view::npos && (!insideQuotes || neverClosed)) return true;
-  }
-  return false;
-}
-
 ustring quoteWhenNeeded(const ustring& text) {
   return !isQuoted(text) && holdsOutsideQuotes(text, u" ()&") ? between(text, u'"') : text;
+}
+
+ustring quoteInCommand(const ustring& text) {
+  const ustring quoted = quoteWhenNeeded(text);
+  return holdsOutsideQuotes(quoted, shellActsUpon) ? quoteAlways(quoted) : quoted;
 }
 
 ustring quoteForPosix(const ustring& text) {

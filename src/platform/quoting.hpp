@@ -15,15 +15,11 @@ ustring withoutQuotes(const ustring& text);
 /// In double quotes, unless it already begins and ends with one.
 ustring quoteAlways(const ustring& text);
 
-/// Whether one of the characters stands outside the double quotes that the text has. A quote that is never closed
-/// encloses nothing.
-bool holdsOutsideQuotes(const ustring& text, fl::ustring_view characters);
-
 /// In double quotes if a blank, "(", ")" or "&" stands outside the quotes that the text has.
 ustring quoteWhenNeeded(const ustring& text);
 
-/// A text that becomes part of a command: as `quoteWhenNeeded` gives it and, where a shell like sh runs commands,
-/// in double quotes too if a character that such a shell acts upon stands outside the quotes that the text has.
+/// A text that becomes part of a command: as `quoteWhenNeeded` gives it, and in double quotes too if another
+/// character that the platform's shell acts upon stands outside the quotes that the text has.
 ustring quoteInCommand(const ustring& text);
 
 /// In single quotes if the text holds a blank, "=", "(" or ")".

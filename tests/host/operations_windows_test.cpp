@@ -36,6 +36,17 @@ TEST(Operations, AWriteProtectedFileIsRemovedOnlyOnceItIsFree) {
   EXPECT_TRUE(remove(u"file"));
 }
 
+TEST(Operations, AFolderGoesWithItsWriteProtectedFiles) {
+  const Scratch scratch;
+  for (const char* name : {"folder/below/file", "folder/other"}) {
+    scratch.write(name, "");
+    std::filesystem::permissions(name, ownerRead, std::filesystem::perm_options::replace);
+  }
+  EXPECT_EQ(remove_all(u"folder"), 4U);
+  EXPECT_FALSE(exists(u"folder"));
+  EXPECT_EQ(remove_all(u"folder"), 0U);
+}
+
 TEST(Operations, LetterCaseOfNamesDoesNotCount) {
   const Scratch scratch;
   scratch.write("Name.TXT", "text");

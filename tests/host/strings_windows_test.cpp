@@ -22,9 +22,10 @@ TEST(Environment, HoldsWhatTheCodePageCannot) {
   const zex_test::ScopedVariable restored("ZEX_TEST_SET", "old");
   EXPECT_TRUE(setenv("ZEX_TEST_SET", u"漢 \"ü\" %PATH%"));
   EXPECT_EQ(fl::i18n::getenv("ZEX_TEST_SET"), u"漢 \"ü\" %PATH%");
-  EXPECT_EQ(zex_test::variable("ZEX_TEST_SET"), "漢 \"ü\" %PATH%") << "the C library's copy";
+  EXPECT_EQ(zex_test::variable("ZEX_TEST_SET"), "漢 \"ü\" %PATH%") << "what tools are given";
   EXPECT_TRUE(setenv("ZEX_TEST_SET", u""));
   EXPECT_EQ(fl::i18n::getenv("ZEX_TEST_SET"), u"");
+  EXPECT_EQ(zex_test::variable("ZEX_TEST_SET"), "") << "removed";
   EXPECT_TRUE(setenv("ZEX_TEST_SET", u"")) << "a second time";
 
   const std::string withZero("ZEX\0TEST", 8);

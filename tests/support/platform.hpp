@@ -15,8 +15,7 @@ struct Platform {
   std::string_view program;              ///< what the names of programs end in
   std::u16string_view quotedInCommands;  ///< what the shell acts upon also within a path
   std::string_view closedFolder;         ///< not even the super-user can make a file there
-  bool refusesShellSigns;    ///< a path with a double quote or "$", which no command can carry, is invalid
-  bool keepsEmptyVariables;  ///< a variable may be set to the empty text
+  bool refusesShellSigns;  ///< a path with a double quote or "$", which no command can carry, is invalid
 };
 extern const Platform platform;
 
@@ -29,11 +28,6 @@ std::string toldMessage(std::string text);
 std::string fromNative(std::string_view bytes);
 
 std::optional<std::string> variable(const std::string& name);
-
-/// What a variable holds that was set to the empty text: where that can be, it is not removed by it.
-inline std::optional<std::string> emptied() {
-  return platform.keepsEmptyVariables ? std::optional<std::string>("") : std::nullopt;
-}
 
 /// Nothing unsets it.
 void setVariable(const std::string& name, const std::optional<std::string>& value);

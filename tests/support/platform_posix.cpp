@@ -20,7 +20,6 @@ const Platform platform = {
     .quotedInCommands = u" ()&'|<>*?[]{}#~!\\\t",
     .closedFolder = "/proc/self",
     .refusesShellSigns = true,
-    .keepsEmptyVariables = true,
 };
 
 std::string told(std::string text) {

@@ -1,5 +1,6 @@
+#include <windows.h>
+
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 #include "fl/i18n/strings.hpp"
@@ -18,7 +19,6 @@ const Platform platform = {
     .quotedInCommands = u" ()&^|<>\t",
     .closedFolder = "Z:/proc/self",
     .refusesShellSigns = false,
-    .keepsEmptyVariables = false,
 };
 
 std::string told(std::string text) {
@@ -37,14 +37,19 @@ std::string fromNative(std::string_view bytes) {
 }
 
 std::optional<std::string> variable(const std::string& name) {
-  const wchar_t* const value = _wgetenv(host::standalone::wide(utf16(name)));
-  if (value == nullptr) return std::nullopt;
+  const fl::ustring key = utf16(name);
+  SetLastError(ERROR_SUCCESS);
+  std::wstring value(GetEnvironmentVariableW(host::standalone::wide(key), nullptr, 0), L'\0');
+  if (GetLastError() == ERROR_ENVVAR_NOT_FOUND) return std::nullopt;
+  value.resize(
+      GetEnvironmentVariableW(host::standalone::wide(key), value.data(), static_cast<DWORD>(value.size())));
   return utf8(host::standalone::fromWide(value));
 }
 
 void setVariable(const std::string& name, const std::optional<std::string>& value) {
+  const fl::ustring key = utf16(name);
   const fl::ustring text = utf16(value.value_or(""));
-  _wputenv_s(host::standalone::wide(utf16(name)), host::standalone::wide(text));
+  SetEnvironmentVariableW(host::standalone::wide(key), value ? host::standalone::wide(text) : nullptr);
 }
 
 }  // namespace zex_test
