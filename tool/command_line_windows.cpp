@@ -6,7 +6,7 @@
 #include <new>
 
 #include "command_line.hpp"
-#include "standalone/texts/wide.hpp"
+#include "texts/wide.hpp"
 
 namespace tool {
 
@@ -16,7 +16,7 @@ std::vector<fl::ustring> commandLineArguments(int /*count*/, char** /*values*/) 
                                                               LocalFree);
   if (words == nullptr) throw std::bad_alloc();
   std::vector<fl::ustring> arguments;
-  for (int index = 1; index < count; ++index) arguments.push_back(host::standalone::fromWide(words.get()[index]));
+  for (int index = 1; index < count; ++index) arguments.push_back(host::fromWide(words.get()[index]));
   return arguments;
 }
 

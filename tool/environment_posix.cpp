@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "environment.hpp"
+#include "host/temporary_folders.hpp"
 
 namespace tool {
 
@@ -22,7 +23,7 @@ void setVariable(const char* name, const std::string& value) {
 
 /// The folder that the library would take, in its own order.
 std::string temporaryFolder() {
-  for (const char* name : {"TMPDIR", "TMP", "TEMP"}) {
+  for (const char* name : host::temporaryFolderVariables) {
     std::string value = variable(name);
     if (!value.empty()) return value;
   }

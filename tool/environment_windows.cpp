@@ -7,14 +7,15 @@
 #include "fl/filesystem/path_names.hpp"
 #include "fl/i18n/environment.hpp"
 #include "fl/i18n/strings.hpp"
-#include "standalone/texts/wide.hpp"
+#include "host/temporary_folders.hpp"
+#include "texts/wide.hpp"
 
 namespace tool {
 
 namespace {
 
 using fl::ustring;
-using host::standalone::wide;
+using host::wide;
 
 void setVariable(const char* name, const ustring& value) {
   if (!fl::i18n::setenv(name, value))
@@ -27,7 +28,7 @@ ustring textFrom(Call call) {
   constexpr DWORD longestPath = 32768;
   std::wstring buffer(longestPath, L'\0');
   const DWORD length = call(buffer.data(), longestPath);
-  return length < longestPath ? host::standalone::fromWide(buffer.substr(0, length)) : ustring();
+  return length < longestPath ? host::fromWide(buffer.substr(0, length)) : ustring();
 }
 
 /// Folders are compared as text: with the system's separators, and none behind.
@@ -41,7 +42,7 @@ ustring nativeFolder(const ustring& folder) {
 
 /// The folder that the library would take, in its own order, else the system's.
 ustring temporaryFolder() {
-  for (const char* name : {"TMPDIR", "TMP", "TEMP"}) {
+  for (const char* name : host::temporaryFolderVariables) {
     if (ustring value = fl::i18n::getenv(name); !value.empty()) return value;
   }
   return textFrom([](wchar_t* buffer, DWORD room) { return GetTempPathW(room, buffer); });

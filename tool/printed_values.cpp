@@ -6,8 +6,10 @@
 #include <cmath>
 #include <cstdint>
 #include <optional>
+#include <type_traits>
 
 #include "values.hpp"
+#include "zx/kinds.hpp"
 
 namespace tool {
 
@@ -15,8 +17,7 @@ namespace {
 
 namespace json = boost::json;
 
-/// An element of a logical array: a type of its own, since std::uint8_t is unsigned char as well.
-enum class Logical : unsigned char {};
+using zx::Logical;
 
 bool isTrue(Logical truth) {
   return static_cast<unsigned char>(truth) != 0;
@@ -77,33 +78,13 @@ json::value inJson(zxComplex number) {
 template <class Use>
 void withElements(const zxArray* array, Use use) {
   const zxKind kind = zxKindOf(array);
-  switch (kind) {
-    case ZX_REAL:
-      return use(zxReadReals(array));
-    case ZX_COMPLEX:
-      return use(zxReadComplexes(array));
-    case ZX_LOGICAL:
-      return use(static_cast<const Logical*>(zxReadData(array, kind)));
-    case ZX_INT8:
-      return use(static_cast<const std::int8_t*>(zxReadData(array, kind)));
-    case ZX_INT16:
-      return use(static_cast<const std::int16_t*>(zxReadData(array, kind)));
-    case ZX_INT32:
-      return use(static_cast<const std::int32_t*>(zxReadData(array, kind)));
-    case ZX_INT64:
-      return use(static_cast<const std::int64_t*>(zxReadData(array, kind)));
-    case ZX_UINT8:
-      return use(static_cast<const std::uint8_t*>(zxReadData(array, kind)));
-    case ZX_UINT16:
-      return use(static_cast<const std::uint16_t*>(zxReadData(array, kind)));
-    case ZX_UINT32:
-      return use(static_cast<const std::uint32_t*>(zxReadData(array, kind)));
-    case ZX_UINT64:
-      return use(static_cast<const std::uint64_t*>(zxReadData(array, kind)));
-    case ZX_TEXT:
-    case ZX_OTHER:
-      return;
-  }
+  zx::withElementType(kind, [&]<class Element>(std::type_identity<Element>) {
+    if constexpr (std::is_same_v<Element, zxComplex>) {
+      use(zxReadComplexes(array));
+    } else {
+      use(static_cast<const Element*>(zxReadData(array, kind)));
+    }
+  });
 }
 
 /// The rows to print; none without elements, however many rows an array of no columns has.

@@ -12,6 +12,7 @@
 #include "fl/i18n/strings.hpp"
 #include "foundation/core/except/IException.hpp"
 #include "korvane/TException.hpp"
+#include "standalone/Interrupted.hpp"
 #include "standalone/StandaloneServices.hpp"
 #include "standalone/shell/interrupts.hpp"
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdint>
 #include <cstdlib>
 #include <optional>
 #include <string_view>
@@ -10,22 +9,12 @@
 #include <vector>
 
 #include "program.hpp"
+#include "texts/trimmed.hpp"
+#include "zx/kinds.hpp"
 
 namespace tool {
 
 namespace {
-
-struct NamedKind {
-  const char* name;
-  zxKind kind;
-};
-
-constexpr NamedKind kinds[] = {
-    {"real", ZX_REAL},     {"complex", ZX_COMPLEX}, {"int8", ZX_INT8},       {"int16", ZX_INT16},
-    {"int32", ZX_INT32},   {"int64", ZX_INT64},     {"uint8", ZX_UINT8},     {"uint16", ZX_UINT16},
-    {"uint32", ZX_UINT32}, {"uint64", ZX_UINT64},   {"logical", ZX_LOGICAL}, {"text", ZX_TEXT},
-    {"object", ZX_OTHER},
-};
 
 [[noreturn]] void refuse(const std::string& argument, const std::string& why) {
   throw UsageError(
@@ -41,14 +30,8 @@ struct Matrix {
   std::vector<std::string> elements;  ///< row after row
 };
 
-bool isBlank(char character) {
-  return character == ' ' || character == '\t' || character == '\n';
-}
-
 std::string_view trimmed(std::string_view text) {
-  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-  return text;
+  return host::trimmed(text, " \t\n");
 }
 
 /// Elements between blanks; one comma may stand between two of them.
@@ -112,15 +95,16 @@ std::optional<Number> taken(std::string_view& text) {
   return number;
 }
 
-template <class Number>
-std::optional<Number> number(const std::string& element) {
-  std::string_view rest = element;
-  const std::optional<Number> value = taken<Number>(rest);
+template <class Element>
+std::optional<Element> elementOf(const std::string& text) {
+  std::string_view rest = text;
+  const std::optional<Element> value = taken<Element>(rest);
   return rest.empty() ? value : std::nullopt;
 }
 
-std::optional<zxComplex> complexNumber(const std::string& element) {
-  std::string_view rest = element;
+template <>
+std::optional<zxComplex> elementOf(const std::string& text) {
+  std::string_view rest = text;
   const std::optional<double> first = taken<double>(rest);
   if (!first) return std::nullopt;
   if (rest.empty()) return zxComplex{*first, 0};
@@ -131,69 +115,34 @@ std::optional<zxComplex> complexNumber(const std::string& element) {
   return zxComplex{*first, *second};
 }
 
-std::optional<unsigned char> truth(const std::string& element) {
-  if (element == "true" || element == "1") return static_cast<unsigned char>(1);
-  if (element == "false" || element == "0") return static_cast<unsigned char>(0);
+template <>
+std::optional<zx::Logical> elementOf(const std::string& text) {
+  if (text == "true" || text == "1") return zx::Logical{1};
+  if (text == "false" || text == "0") return zx::Logical{0};
   return std::nullopt;
 }
 
-/// Reads all elements and puts them where they belong, column after column.
 template <class Element>
-void fill(Element* to, const Matrix& matrix, const std::string& argument,
-          std::optional<Element> (*read)(const std::string&), zxKind kind) {
-  for (std::size_t index = 0; index < matrix.elements.size(); ++index) {
-    const std::optional<Element> element = read(matrix.elements[index]);
-    if (!element) refuse(argument, "'" + matrix.elements[index] + "' cannot be read as " + nameOf(kind));
-    to[index / matrix.columns + index % matrix.columns * matrix.rows] = *element;
-  }
+Element* elementsToFill(zxArray* array) {
+  return static_cast<Element*>(zxEditData(array, zxKindOf(array)));
 }
 
-template <class Element>
-void fillData(zxArray* array, const Matrix& matrix, const std::string& argument) {
-  const zxKind kind = zxKindOf(array);
-  fill(static_cast<Element*>(zxEditData(array, kind)), matrix, argument, number<Element>, kind);
+template <>
+zxComplex* elementsToFill(zxArray* array) {
+  return zxEditComplexes(array);
 }
 
+/// Of a kind with elements. All are read and put where they belong, column after column.
 Value arrayOf(zxKind kind, const Matrix& matrix, const std::string& argument) {
   Value array(zxMake(kind, static_cast<zxIndex>(matrix.rows), static_cast<zxIndex>(matrix.columns)));
-  switch (kind) {
-    case ZX_REAL:
-      fillData<double>(array.get(), matrix, argument);
-      break;
-    case ZX_INT8:
-      fillData<std::int8_t>(array.get(), matrix, argument);
-      break;
-    case ZX_INT16:
-      fillData<std::int16_t>(array.get(), matrix, argument);
-      break;
-    case ZX_INT32:
-      fillData<std::int32_t>(array.get(), matrix, argument);
-      break;
-    case ZX_INT64:
-      fillData<std::int64_t>(array.get(), matrix, argument);
-      break;
-    case ZX_UINT8:
-      fillData<std::uint8_t>(array.get(), matrix, argument);
-      break;
-    case ZX_UINT16:
-      fillData<std::uint16_t>(array.get(), matrix, argument);
-      break;
-    case ZX_UINT32:
-      fillData<std::uint32_t>(array.get(), matrix, argument);
-      break;
-    case ZX_UINT64:
-      fillData<std::uint64_t>(array.get(), matrix, argument);
-      break;
-    case ZX_COMPLEX:
-      fill(zxEditComplexes(array.get()), matrix, argument, complexNumber, kind);
-      break;
-    case ZX_LOGICAL:
-      fill(static_cast<unsigned char*>(zxEditData(array.get(), kind)), matrix, argument, truth, kind);
-      break;
-    case ZX_TEXT:
-    case ZX_OTHER:
-      break;  // no matrix is read as one of these
-  }
+  zx::withElementType(kind, [&]<class Element>(std::type_identity<Element>) {
+    Element* const to = elementsToFill<Element>(array.get());
+    for (std::size_t index = 0; index < matrix.elements.size(); ++index) {
+      const std::optional<Element> element = elementOf<Element>(matrix.elements[index]);
+      if (!element) refuse(argument, "'" + matrix.elements[index] + "' cannot be read as " + nameOf(kind));
+      to[index / matrix.columns + index % matrix.columns * matrix.rows] = *element;
+    }
+  });
   return array;
 }
 
@@ -221,9 +170,9 @@ Value textOf(std::string_view quoted, const std::string& argument) {
 
 /// A kind's name with something in parentheses behind it.
 std::optional<Value> converted(std::string_view text, const std::string& argument) {
-  for (const NamedKind& named : kinds) {
+  for (const zx::KindOfArray& named : zx::kinds) {
     const std::string begin = std::string(named.name) + "(";
-    if (!text.starts_with(begin) || named.kind == ZX_TEXT || named.kind == ZX_OTHER) continue;
+    if (!text.starts_with(begin) || named.size == 0) continue;
     if (!text.ends_with(')')) refuse(argument, "the ')' is missing");
     text.remove_prefix(begin.size());
     text.remove_suffix(1);
@@ -235,7 +184,8 @@ std::optional<Value> converted(std::string_view text, const std::string& argumen
 }  // namespace
 
 const char* nameOf(zxKind kind) {
-  return std::find_if(std::begin(kinds), std::end(kinds), [=](const NamedKind& row) { return row.kind == kind; })
+  return std::find_if(std::begin(zx::kinds), std::end(zx::kinds),
+                      [=](const auto& row) { return row.kind == kind; })
       ->name;
 }
 

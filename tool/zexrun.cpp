@@ -3,10 +3,9 @@
 #include <cstdio>
 #include <optional>
 
-#include "KeptOutput.hpp"
 #include "fl/i18n/strings.hpp"
 #include "korvane/TException.hpp"
-#include "output_text.hpp"
+#include "output.hpp"
 #include "printed_values.hpp"
 #include "program.hpp"
 #include "standalone/products/LoadedProducts.hpp"

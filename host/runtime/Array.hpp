@@ -8,6 +8,7 @@
 #include <string>
 
 #include "zex.h"
+#include "zx/kinds.hpp"
 
 namespace zx {
 
@@ -60,13 +61,12 @@ namespace zx {
 const zxArray& present(const zxArray* array);
 zxArray& present(zxArray* array);
 
-/// The characters of a text, or a failure where there are none.
-const char* presentText(const char* text);
-const zxUnit* presentText(const zxUnit* text);
-
 /// Held while content is read that a reader on another thread may be replacing. One for all arrays: it is held for
 /// long only where complex elements are rearranged, which is rare.
 std::unique_lock<std::mutex> heldAgainstReaders();
+
+/// Fails for a number that is no kind.
+const KindOfArray& kindNamed(zxKind kind);
 
 /// Fails where the array is of another kind than `kind`.
 void requireKind(const zxArray& array, zxKind kind);

@@ -1,7 +1,6 @@
 #include "Call.hpp"
 
 #include <algorithm>
-#include <cstdint>
 #include <utility>
 
 namespace zx {
@@ -11,9 +10,6 @@ namespace {
 thread_local Call* innermost = nullptr;
 
 }  // namespace
-
-Failure::Failure(std::string identifier, std::string message)
-    : identifier_(std::move(identifier)), message_(std::move(message)) {}
 
 Call::Call(int inputCount, const zxArray* const* inputs)
     : outer_(std::exchange(innermost, this)), inputCount_(inputCount), inputs_(inputs) {}
@@ -54,19 +50,4 @@ void Call::handOver(int placeCount, zxArray* const* outputs) {
   }
 }
 
-zxArray* registered(std::unique_ptr<zxArray> array) {
-  if (Call::current() != nullptr) Call::current()->add(array.get());
-  return array.release();
-}
-
 }  // namespace zx
-
-void zxDestroyArray(zxArray* array) {
-  if (array == nullptr) return;
-  const zx::Call* const call = zx::Call::current();
-  if (call != nullptr && call->isInput(array)) {
-    zexFail("TESSEL:zx:InputDestroyed", "An input belongs to the caller and cannot be destroyed.");
-  }
-  if (array->call != nullptr) array->call->drop(array);
-  delete array;
-}

@@ -1,25 +1,10 @@
 #pragma once
 
-#include <exception>
-#include <string>
 #include <unordered_set>
 
 #include "Array.hpp"
 
 namespace zx {
-
-/// What zexFail throws. It is thrown and caught in this library alone, across the frames of the extension.
-class Failure : public std::exception {
- public:
-  Failure(std::string identifier, std::string message);
-  const char* what() const noexcept override { return message_.c_str(); }
-  const std::string& identifier() const { return identifier_; }
-  const std::string& message() const { return message_; }
-
- private:
-  std::string identifier_;
-  std::string message_;
-};
 
 /// One call of an extension: frees at its end what the extension made and did not return. Calls of one thread
 /// nest.

@@ -3,7 +3,6 @@
 #include <limits>
 
 #include "Call.hpp"
-#include "kinds.hpp"
 #include "zx/runtime.hpp"
 
 namespace zx {
@@ -45,6 +44,11 @@ Elements allocate(std::size_t count, std::size_t size) {
   return elements;
 }
 
+zxArray* registered(std::unique_ptr<zxArray> array) {
+  if (Call::current() != nullptr) Call::current()->add(array.get());
+  return array.release();
+}
+
 zxArray* make(zxKind kind, std::int64_t rows, std::int64_t columns) {
   const std::size_t size = kindNamed(kind).size;
   if (size == 0)
@@ -69,7 +73,7 @@ zxArray* zxMake(zxKind kind, zxIndex rows, zxIndex columns) {
 
 zxArray* zxMakeReal(double value) {
   zxArray* const array = zx::make(ZX_REAL, 1, 1);
-  *zxEditReals(array) = value;
+  *static_cast<double*>(array->elements.get()) = value;
   return array;
 }
 
@@ -89,6 +93,16 @@ zxArray* zxCopy(const zxArray* source) {
     std::memcpy(array->elements.get(), from.elements.get(), from.count() * size);
   }
   return zx::registered(std::move(array));
+}
+
+void zxDestroyArray(zxArray* array) {
+  if (array == nullptr) return;
+  const zx::Call* const call = zx::Call::current();
+  if (call != nullptr && call->isInput(array)) {
+    zexFail("TESSEL:zx:InputDestroyed", "An input belongs to the caller and cannot be destroyed.");
+  }
+  if (array->call != nullptr) array->call->drop(array);
+  delete array;
 }
 
 zxKind zxKindOf(const zxArray* array) {

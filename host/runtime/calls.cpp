@@ -2,6 +2,7 @@
 #include <new>
 
 #include "Call.hpp"
+#include "Failure.hpp"
 #include "zx/runtime.hpp"
 
 namespace {

@@ -1,6 +1,7 @@
-#include <algorithm>
+#include <optional>
+#include <type_traits>
 
-#include "kinds.hpp"
+#include "Array.hpp"
 
 namespace {
 
@@ -12,11 +13,6 @@ const void* data(const zxArray* array, zxKind kind) {
   }
   zx::requireKind(checked, kind);
   return checked.elements.get();
-}
-
-template <class Number>
-double first(const zxArray& array) {
-  return static_cast<double>(*static_cast<const Number*>(array.elements.get()));
 }
 
 }  // namespace
@@ -42,32 +38,12 @@ double zxNumber(const zxArray* array) {
   if (checked.count() != 1) {
     zexFail("TESSEL:zx:NoNumber", "One number is needed, not %zu by %zu elements.", checked.rows, checked.columns);
   }
-  switch (checked.kind) {
-    case ZX_REAL:
-      return first<double>(checked);
-    case ZX_INT8:
-      return first<std::int8_t>(checked);
-    case ZX_INT16:
-      return first<std::int16_t>(checked);
-    case ZX_INT32:
-      return first<std::int32_t>(checked);
-    case ZX_INT64:
-      return first<std::int64_t>(checked);
-    case ZX_UINT8:
-      return first<std::uint8_t>(checked);
-    case ZX_UINT16:
-      return first<std::uint16_t>(checked);
-    case ZX_UINT32:
-      return first<std::uint32_t>(checked);
-    case ZX_UINT64:
-      return first<std::uint64_t>(checked);
-    case ZX_LOGICAL:
-      return first<unsigned char>(checked);
-    case ZX_COMPLEX:
-    case ZX_TEXT:
-    case ZX_OTHER:
-      break;
-  }
+  std::optional<double> number;
+  zx::withElementType(checked.kind, [&]<class Element>(std::type_identity<Element>) {
+    if constexpr (!std::is_same_v<Element, zxComplex>)
+      number = static_cast<double>(*static_cast<const Element*>(checked.elements.get()));
+  });
+  if (number) return *number;
   zexFail("TESSEL:zx:NoNumber", "A real number is needed, not a value of the kind %s.",
           zx::kindNamed(checked.kind).name);
 }

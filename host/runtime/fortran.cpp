@@ -3,8 +3,9 @@
 #include <string_view>
 
 #include "Array.hpp"
-#include "standalone/texts/utf.hpp"
-#include "talk.hpp"
+#include "Failure.hpp"
+#include "output.hpp"
+#include "texts/utf.hpp"
 
 namespace {
 
@@ -24,7 +25,8 @@ ZX_API zxArray* zx_make_text_(const char* text, std::size_t length);
 
 void zex_fail_(const char* identifier, const char* message, std::size_t identifierLength,
                std::size_t messageLength) {
-  zx::fail(std::string(unpadded(identifier, identifierLength)), std::string(unpadded(message, messageLength)));
+  throw zx::Failure(std::string(unpadded(identifier, identifierLength)),
+                    std::string(unpadded(message, messageLength)));
 }
 
 /// Prints a line.
@@ -33,6 +35,6 @@ void zex_print_(const char* text, std::size_t length) {
 }
 
 zxArray* zx_make_text_(const char* text, std::size_t length) {
-  return zx::makeText(host::standalone::fromUtf8(unpadded(text, length)));
+  return zx::makeText(host::fromUtf8(unpadded(text, length)));
 }
 }

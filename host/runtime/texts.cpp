@@ -1,26 +1,8 @@
 #include <utility>
 
 #include "Array.hpp"
-#include "standalone/texts/utf.hpp"
-#include "talk.hpp"
-
-namespace {
-
-template <class Unit>
-const Unit* checkedText(const Unit* text) {
-  if (text == nullptr) zx::fail("TESSEL:zx:NoText", "There is no text where one is needed.");
-  return text;
-}
-
-}  // namespace
-
-const char* zx::presentText(const char* text) {
-  return checkedText(text);
-}
-
-const zxUnit* zx::presentText(const zxUnit* text) {
-  return checkedText(text);
-}
+#include "given_texts.hpp"
+#include "texts/utf.hpp"
 
 zxArray* zx::makeText(std::u16string text) {
   auto array = std::make_unique<zxArray>();
@@ -32,7 +14,7 @@ zxArray* zx::makeText(std::u16string text) {
 }
 
 zxArray* zxCreateString(const char* text) {
-  return zx::makeText(host::standalone::fromUtf8(zx::presentText(text)));
+  return zx::makeText(host::fromUtf8(zx::presentText(text)));
 }
 
 zxArray* zxCreateString_UTF16(const zxUnit* text) {
@@ -43,7 +25,7 @@ const char* zxReadText(const zxArray* array) {
   const zxArray& checked = zx::present(array);
   zx::requireKind(checked, ZX_TEXT);
   const auto held = zx::heldAgainstReaders();
-  if (!checked.utf8) checked.utf8 = host::standalone::toUtf8(checked.text);
+  if (!checked.utf8) checked.utf8 = host::toUtf8(checked.text);
   return checked.utf8->c_str();
 }
 

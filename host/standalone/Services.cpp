@@ -1,35 +1,20 @@
 #include "host/Services.hpp"
 
-#include <atomic>
-
-#include "standalone/StandaloneServices.hpp"
-#include "standalone/usm_Store.hpp"
+#include "standalone/KeyedStore.hpp"
+#include "standalone/calls/HostCall.hpp"
+#include "standalone/calls/getfield.hpp"
 
 namespace host {
 
-namespace {
-
-std::atomic<Services*> installed = nullptr;
-
-/// Never destroyed: records in its store are deleted by code of libraries that may be gone when the process ends.
-Services& standaloneServices() {
-  static Services* const instance = std::make_unique<standalone::StandaloneServices>().release();
-  return *instance;
-}
-
-}  // namespace
-
-Services::Services() : store_(std::make_unique<foundation::usm::Store>()) {}
+Services::Services() : store_(std::make_unique<foundation::usm::KeyedStore>()) {}
 
 Services::~Services() = default;
 
-Services& services() {
-  Services* const chosen = installed;
-  return chosen == nullptr ? standaloneServices() : *chosen;
-}
-
-Services* installServices(Services* services) {
-  return installed.exchange(services);
+zxArray* Services::callFunction(const std::string& name, int outputCount, zxArray* outputs[], int inputCount,
+                                zxArray* inputs[]) {
+  const auto function = name == "getfield" ? standalone::getfield : nullptr;
+  return standalone::callTrapped(*this, name, function,
+                                 {{inputs, inputs + inputCount}, {outputs, outputs + outputCount}});
 }
 
 }  // namespace host

@@ -9,11 +9,14 @@
 #include "fl/i18n/MessageCatalog.hpp"
 #include "fl/i18n/environment.hpp"
 #include "fl/i18n/strings.hpp"
-#include "standalone/calls/host_functions.hpp"
-#include "standalone/files/separators.hpp"
+#include "standalone/Interrupted.hpp"
+#include "standalone/calls/HostCall.hpp"
+#include "standalone/files/path_names.hpp"
 #include "standalone/messages/locale_name.hpp"
-#include "standalone/places.hpp"
 #include "standalone/shell/interrupts.hpp"
+#include "standalone/shell/shell_line.hpp"
+#include "standalone/standard_folders.hpp"
+#include "standalone/zl.hpp"
 
 namespace host::standalone {
 
@@ -72,6 +75,10 @@ fl::ustring StandaloneServices::preferencesFolder(bool create) const {
 
 std::string StandaloneServices::locale() const {
   return localeOfEnvironment();
+}
+
+ShellResult StandaloneServices::runShellLine(const fl::ustring& line, bool /*calledFromHost*/) {
+  return runLineOfShell(*this, line);
 }
 
 void StandaloneServices::stopIfInterrupted() {

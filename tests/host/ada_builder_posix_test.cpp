@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "standalone/ada/ada_builder.hpp"
-#include "standalone/calls/host_functions.hpp"
+#include "standalone/calls/HostCall.hpp"
 #include "support/RecordingServices.hpp"
 #include "support/Scratch.hpp"
 #include "support/texts.hpp"

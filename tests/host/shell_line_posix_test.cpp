@@ -7,6 +7,7 @@
 #include <chrono>
 #include <functional>
 
+#include "standalone/Interrupted.hpp"
 #include "standalone/StandaloneServices.hpp"
 #include "standalone/shell/interrupts.hpp"
 #include "support/Scratch.hpp"

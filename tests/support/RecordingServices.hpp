@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "host/Services.hpp"
-#include "standalone/calls/HostValue.hpp"
+#include "standalone/values/HostValue.hpp"
 
 namespace zex_test {
 

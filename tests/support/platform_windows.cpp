@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "fl/i18n/strings.hpp"
-#include "standalone/texts/wide.hpp"
 #include "support/platform.hpp"
 #include "support/texts.hpp"
+#include "texts/wide.hpp"
 
 namespace zex_test {
 
@@ -39,17 +39,16 @@ std::string fromNative(std::string_view bytes) {
 std::optional<std::string> variable(const std::string& name) {
   const fl::ustring key = utf16(name);
   SetLastError(ERROR_SUCCESS);
-  std::wstring value(GetEnvironmentVariableW(host::standalone::wide(key), nullptr, 0), L'\0');
+  std::wstring value(GetEnvironmentVariableW(host::wide(key), nullptr, 0), L'\0');
   if (GetLastError() == ERROR_ENVVAR_NOT_FOUND) return std::nullopt;
-  value.resize(
-      GetEnvironmentVariableW(host::standalone::wide(key), value.data(), static_cast<DWORD>(value.size())));
-  return utf8(host::standalone::fromWide(value));
+  value.resize(GetEnvironmentVariableW(host::wide(key), value.data(), static_cast<DWORD>(value.size())));
+  return utf8(host::fromWide(value));
 }
 
 void setVariable(const std::string& name, const std::optional<std::string>& value) {
   const fl::ustring key = utf16(name);
   const fl::ustring text = utf16(value.value_or(""));
-  SetEnvironmentVariableW(host::standalone::wide(key), value ? host::standalone::wide(text) : nullptr);
+  SetEnvironmentVariableW(host::wide(key), value ? host::wide(text) : nullptr);
 }
 
 }  // namespace zex_test

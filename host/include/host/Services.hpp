@@ -14,7 +14,7 @@
 class Tdispatcher;
 
 namespace foundation::usm {
-class Store;
+class KeyedStore;
 }
 
 namespace host {
@@ -67,10 +67,10 @@ class ZEXHOST_API Services {
                                 zxArray* inputs[]);
 
   /// The keyed store of the virtual machine that these services stand for. It lives as long as they do.
-  foundation::usm::Store& store() { return *store_; }
+  foundation::usm::KeyedStore& store() { return *store_; }
 
  private:
-  std::unique_ptr<foundation::usm::Store> store_;
+  std::unique_ptr<foundation::usm::KeyedStore> store_;
 };
 
 /// The services in force.

@@ -6,7 +6,7 @@
 #include "fl/filesystem/operations.hpp"
 #include "fl/filesystem/path_names.hpp"
 #include "fl/i18n/strings.hpp"
-#include "standalone/calls/host_functions.hpp"
+#include "standalone/calls/HostCall.hpp"
 
 namespace host::standalone {
 

@@ -4,7 +4,7 @@
 #include "standalone/ada/AdaCommand.hpp"
 #include "standalone/ada/TemporaryFolder.hpp"
 #include "standalone/ada/ada_builder.hpp"
-#include "standalone/calls/host_functions.hpp"
+#include "standalone/calls/HostCall.hpp"
 
 namespace host::standalone {
 

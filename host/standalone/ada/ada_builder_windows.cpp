@@ -1,5 +1,5 @@
 #include "standalone/ada/ada_builder.hpp"
-#include "standalone/calls/host_functions.hpp"
+#include "standalone/calls/HostCall.hpp"
 
 namespace host::standalone {
 

@@ -9,7 +9,7 @@
 #include "fl/i18n/strings.hpp"
 #include "standalone/files/file_failures.hpp"
 #include "standalone/files/native_path.hpp"
-#include "standalone/files/separators.hpp"
+#include "standalone/files/path_names.hpp"
 
 namespace fl::filesystem {
 

@@ -1,7 +1,7 @@
 #include "fl/i18n/strings.hpp"
 #include "standalone/files/file_failures.hpp"
 #include "standalone/files/native_path.hpp"
-#include "standalone/texts/utf.hpp"
+#include "texts/utf.hpp"
 
 namespace host::standalone {
 

@@ -1,7 +1,7 @@
 #include "standalone/files/file_failures.hpp"
 #include "standalone/files/native_path.hpp"
-#include "standalone/files/separators.hpp"
-#include "standalone/texts/wide.hpp"
+#include "standalone/files/path_names.hpp"
+#include "texts/wide.hpp"
 
 namespace host::standalone {
 

@@ -7,8 +7,8 @@
 #include "standalone/files/file_changes.hpp"
 #include "standalone/files/file_failures.hpp"
 #include "standalone/files/native_path.hpp"
+#include "standalone/files/path_names.hpp"
 #include "standalone/files/remove_tree.hpp"
-#include "standalone/files/separators.hpp"
 
 namespace fl::filesystem {
 

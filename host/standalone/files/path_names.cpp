@@ -1,6 +1,6 @@
 #include "fl/filesystem/path_names.hpp"
 
-#include "standalone/files/separators.hpp"
+#include "standalone/files/path_names.hpp"
 
 namespace fl::filesystem::detail {
 

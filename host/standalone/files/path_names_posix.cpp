@@ -1,7 +1,7 @@
 #include "fl/filesystem/operations.hpp"
 #include "fl/filesystem/path_names.hpp"
 #include "standalone/files/native_path.hpp"
-#include "standalone/files/separators.hpp"
+#include "standalone/files/path_names.hpp"
 
 namespace fl::filesystem {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "fl/filesystem/path_names.hpp"
-#include "standalone/files/separators.hpp"
-#include "standalone/texts/wide.hpp"
+#include "standalone/files/path_names.hpp"
+#include "texts/wide.hpp"
 
 namespace fl::filesystem {
 

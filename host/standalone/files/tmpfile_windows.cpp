@@ -5,7 +5,7 @@
 #include "fl/filesystem/operations.hpp"
 #include "fl/filesystem/path_names.hpp"
 #include "fl/i18n/strings.hpp"
-#include "standalone/texts/wide.hpp"
+#include "texts/wide.hpp"
 
 namespace fl::filesystem {
 
@@ -17,8 +17,8 @@ HANDLE newFileIn(const ustring& folder, ustring& path) {
   for (;;) {
     const std::string number = std::to_string(GetCurrentProcessId()) + "_" + std::to_string(++calls);
     path = detail::concatenate_pathname(folder, u"zex_" + i18n::to_ustring(number));
-    const HANDLE file = CreateFileW(host::standalone::wide(path), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ,
-                                    nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE file = CreateFileW(host::wide(path), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                    CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file != INVALID_HANDLE_VALUE || GetLastError() != ERROR_FILE_EXISTS) return file;
   }
 }
@@ -39,7 +39,7 @@ std::optional<temporary_file> tmpfile(const ustring& folder) {
   } else {
     _close(descriptor);
   }
-  DeleteFileW(host::standalone::wide(path));
+  DeleteFileW(host::wide(path));
   return std::nullopt;
 }
 

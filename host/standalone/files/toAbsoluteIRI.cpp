@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "fl/filesystem/operations.hpp"
-#include "standalone/files/separators.hpp"
-#include "standalone/texts/utf.hpp"
+#include "standalone/files/path_names.hpp"
+#include "texts/utf.hpp"
 
 namespace foundation::storage::vfs {
 
@@ -41,7 +41,7 @@ fl::ustring toAbsoluteIRI(const fl::ustring& scheme, const fl::ustring& folder) 
   std::replace_if(path.begin(), path.end(), host::standalone::isSeparator, u'/');
   const std::size_t root = host::standalone::rootLength(path);
   return scheme + u"://" + rootForm(path.substr(0, root)) +
-         host::standalone::fromUtf8(percentEncoded(host::standalone::toUtf8(path.substr(root))));
+         host::fromUtf8(percentEncoded(host::toUtf8(path.substr(root))));
 }
 
 }  // namespace foundation::storage::vfs

@@ -7,7 +7,8 @@
 #include <utility>
 
 #include "fl/filesystem/streams.hpp"
-#include "standalone/texts/utf.hpp"
+#include "texts/trimmed.hpp"
+#include "texts/utf.hpp"
 
 namespace host::standalone {
 
@@ -16,20 +17,14 @@ namespace {
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view blanks = " \t";
 
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(blanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
 /// Identifier and text of a line, or nothing.
 std::optional<std::pair<std::string_view, std::string_view>> entryOf(std::string_view line) {
   if (line.ends_with('\r')) line.remove_suffix(1);
   const auto equals = line.find('=');
-  if (trimmed(line).starts_with('#') || equals == std::string_view::npos) return std::nullopt;
+  if (trimmed(line, blanks).starts_with('#') || equals == std::string_view::npos) return std::nullopt;
   std::string_view text = line.substr(equals + 1);
   if (text.starts_with(' ')) text.remove_prefix(1);
-  return std::pair{trimmed(line.substr(0, equals)), text};
+  return std::pair{trimmed(line.substr(0, equals), blanks), text};
 }
 
 /// An argument's mark at the start of a text: how long it is and which argument it names.

@@ -8,7 +8,7 @@
 #include "korvane/TException.hpp"
 #include "standalone/products/SharedLibrary.hpp"
 #include "standalone/products/interface_check.hpp"
-#include "standalone/texts/utf.hpp"
+#include "texts/utf.hpp"
 
 namespace host::standalone {
 

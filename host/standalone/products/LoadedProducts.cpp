@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "fl/filesystem/path_names.hpp"
-#include "standalone/files/separators.hpp"
+#include "standalone/files/path_names.hpp"
 
 namespace host::standalone {
 

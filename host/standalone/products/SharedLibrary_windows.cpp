@@ -5,7 +5,7 @@
 #include <system_error>
 
 #include "standalone/products/SharedLibrary.hpp"
-#include "standalone/texts/wide.hpp"
+#include "texts/wide.hpp"
 
 namespace host::standalone {
 

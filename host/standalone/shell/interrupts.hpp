@@ -1,7 +1,5 @@
 #pragma once
 
-#include <exception>
-
 #include "host/visibility.hpp"
 
 namespace host::standalone {
@@ -22,17 +20,5 @@ ZEXHOST_API int pendingInterrupt();
 /// After an interrupt, waits until all that this program started is gone, for a few seconds at most: on Windows,
 /// files that it has open cannot be removed. Elsewhere there is nothing to wait for.
 void awaitEndOfTools();
-
-/// Ends the command of an interrupted program. Carries no identifier: it is no answer to anything the command
-/// asked.
-class ZEXHOST_API Interrupted : public std::exception {
- public:
-  explicit Interrupted(int signal) : signal_(signal) {}
-  const char* what() const noexcept override { return "interrupted"; }
-  int signal() const { return signal_; }
-
- private:
-  int signal_;
-};
 
 }  // namespace host::standalone

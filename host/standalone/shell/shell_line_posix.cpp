@@ -12,10 +12,10 @@
 #include <string>
 
 #include "fl/i18n/strings.hpp"
-#include "standalone/StandaloneServices.hpp"
+#include "host/temporary_folders.hpp"
 #include "standalone/shell/SignalForwarding.hpp"
-#include "standalone/shell/interrupts.hpp"
-#include "standalone/texts/utf.hpp"
+#include "standalone/shell/shell_line.hpp"
+#include "texts/utf.hpp"
 
 extern char** environ;  // NOLINT(readability-redundant-declaration): not every system declares it
 
@@ -32,7 +32,7 @@ int openUnnamedIn(const std::string& folder) {
 
 /// In the first folder that takes it, in the order of the driver's own temporary files. -1: errno says why not.
 int openUnnamed() {
-  for (const char* variable : {"TMPDIR", "TMP", "TEMP"}) {
+  for (const char* variable : temporaryFolderVariables) {
     const char* const folder = std::getenv(variable);
     if (folder == nullptr || *folder == '\0') continue;
     if (const int descriptor = openUnnamedIn(folder); descriptor >= 0) return descriptor;
@@ -139,7 +139,7 @@ int reap(pid_t child) {
 }
 
 /// Starts the line and sees it through; the status is the shell's, or the system's error number.
-ShellResult run(StandaloneServices& services, std::string line) {
+ShellResult run(Services& services, std::string line) {
   SignalForwarding forwarding;
   // Looked at after the handlers stand: what comes later is forwarded.
   services.stopIfInterrupted();
@@ -170,7 +170,7 @@ ShellResult run(StandaloneServices& services, std::string line) {
 
 }  // namespace
 
-ShellResult StandaloneServices::runShellLine(const fl::ustring& line, bool /*calledFromHost*/) {
+ShellResult runLineOfShell(Services& services, const fl::ustring& line) {
   // A line with a replaced or cut-off character would be another command.
   std::optional<std::string> bytes = toUtf8Exactly(line);
   if (!bytes) return withoutText(EILSEQ);
@@ -179,9 +179,9 @@ ShellResult StandaloneServices::runShellLine(const fl::ustring& line, bool /*cal
   static std::mutex oneAtATime;
   const std::lock_guard lock(oneAtATime);
   std::fflush(stdout);
-  const ShellResult result = run(*this, std::move(*bytes));
+  const ShellResult result = run(services, std::move(*bytes));
   // A line that an interrupt ended must not pass for one that failed by itself.
-  stopIfInterrupted();
+  services.stopIfInterrupted();
   return result;
 }
 

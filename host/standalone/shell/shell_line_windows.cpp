@@ -3,12 +3,12 @@
 #include <cstdio>
 
 #include "fl/i18n/strings.hpp"
-#include "standalone/StandaloneServices.hpp"
-#include "standalone/texts/wide.hpp"
+#include "standalone/shell/shell_line.hpp"
+#include "texts/wide.hpp"
 
 namespace host::standalone {
 
-ShellResult StandaloneServices::runShellLine(const fl::ustring& line, bool /*calledFromHost*/) {
+ShellResult runLineOfShell(Services& /*services*/, const fl::ustring& line) {
   std::fflush(stdout);
   std::FILE* const stream = _wpopen(wide(line), L"rt");
   if (stream == nullptr) return {errno, {}};

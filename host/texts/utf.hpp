@@ -1,0 +1,19 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "fl/ustring.hpp"
+
+namespace host {
+
+/// What cannot be converted becomes U+FFFD.
+std::string toUtf8(fl::ustring_view text);
+fl::ustring fromUtf8(std::string_view text);
+
+/// Nothing where the text is not well formed: a name with a replacement in it would be a different name.
+std::optional<std::string> toUtf8Exactly(fl::ustring_view text);
+std::optional<fl::ustring> fromUtf8Exactly(std::string_view text);
+
+}  // namespace host

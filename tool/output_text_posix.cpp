@@ -1,9 +1,0 @@
-#include "output_text.hpp"
-
-namespace tool {
-
-std::string outputText(std::string utf8) {
-  return utf8;
-}
-
-}  // namespace tool
