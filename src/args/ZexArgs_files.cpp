@@ -1,14 +1,15 @@
 #include <array>
 
 #include "args/ZexArgs.hpp"
-#include "args/letter_case.hpp"
-#include "args/names.hpp"
+#include "args/known_names.hpp"
 #include "cmd/messages/raise.hpp"
 #include "fl/filesystem/directory_iterator.hpp"
 #include "fl/filesystem/exceptions.hpp"
 #include "fl/filesystem/operations.hpp"
 #include "fl/filesystem/path_names.hpp"
 #include "fl/i18n/strings.hpp"
+#include "platform/contains.hpp"
+#include "platform/letter_case.hpp"
 #include "platform/paths.hpp"
 #include "platform/quoting.hpp"
 
@@ -30,11 +31,11 @@ constexpr std::array<std::string_view, 7> objectExtensions{
 std::string loweredExtension(const ustring& path) {
   const ustring extension = fs::detail::extract_extension(fs::detail::make_native_form(path));
   if (extension.empty()) return {};
-  return fl::i18n::to_string(fl::i18n::lcctype::transform(u"." + extension, fl::i18n::to_lower));
+  return fl::i18n::to_string(lowered(u"." + extension));
 }
 
 void takeSetupLanguage(ZexArgs& args, const ustring& token) {
-  const bool isAny = testForm(token) == "any";
+  const bool isAny = caseFolded(token) == "any";
   args.languages.push_back(isAny ? "any" : args.languageFromName(fl::i18n::to_string(token)));
   args.setupLanguageGiven = true;
 }
@@ -49,8 +50,8 @@ void sortFile(ZexArgs& args, const ustring& token) {
   const std::string extension = loweredExtension(path);
   // One language word only: a second one is a file.
   if (args.setup && !args.setupLanguageGiven && extension.empty()) return takeSetupLanguage(args, token);
-  if (holds(libraryExtensions, extension)) return args.addLibrary(token, false);
-  if (holds(objectExtensions, extension)) return args.objects.push_back(token);
+  if (contains(libraryExtensions, extension)) return args.addLibrary(token, false);
+  if (contains(objectExtensions, extension)) return args.objects.push_back(token);
   takeSource(args, path, extension);
 }
 
@@ -76,7 +77,7 @@ ustring withoutLibExtension(const ustring& name) {
 
 ustring apiVersionFile(const std::vector<std::string>& languages, const std::string& language) {
   const auto isFor = [&](std::string_view name) {
-    return language.empty() ? holds(languages, name) : language == name;
+    return language.empty() ? contains(languages, name) : language == name;
   };
   if (isFor("FORTRAN")) return u"fortran_zexapi_version.F";
   return isFor("C++") ? u"cpp_zexapi_version.cpp" : u"c_zexapi_version.c";

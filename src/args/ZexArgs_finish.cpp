@@ -1,5 +1,5 @@
 #include "args/ZexArgs.hpp"
-#include "args/names.hpp"
+#include "args/known_names.hpp"
 #include "cmd/messages/ZexConfigPerTVM.hpp"
 #include "cmd/messages/raise.hpp"
 #include "cmd/messages/show.hpp"
@@ -8,6 +8,7 @@
 #include "fl/filesystem/operations.hpp"
 #include "fl/filesystem/path_names.hpp"
 #include "fl/i18n/strings.hpp"
+#include "platform/contains.hpp"
 #include "platform/folders.hpp"
 #include "platform/paths.hpp"
 #include "services/io/uout.hpp"
@@ -25,7 +26,7 @@ void setVerboseFlags(bool verbose) {
 }
 
 void settleSetupLanguages(ZexArgs& args) {
-  if (args.languages.empty() || holds(args.languages, "any")) {
+  if (args.languages.empty() || contains(args.languages, "any")) {
     args.languages.assign(languageNames.begin(), languageNames.end());
   }
 }
@@ -66,7 +67,7 @@ void optimizeByDefault(ZexArgs& args) {
 
 /// Fortran sources name the width of array indices themselves, so a silent default may not be the one they mean.
 void checkFortranDims(const ZexArgs& args) {
-  if (!holds(args.languages, "FORTRAN") || args.compatibleArrayDims || args.largeArrayDims) return;
+  if (!contains(args.languages, "FORTRAN") || args.compatibleArrayDims || args.largeArrayDims) return;
   if (args.release == "R2018a") raiseTyped(msg::ErrorFortranR2018a());
   emitWarning(utPrintfIsHot() ? msg::FortranLargeArrayDimsWarn_link() : msg::FortranLargeArrayDimsWarn());
 }

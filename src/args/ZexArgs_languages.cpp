@@ -3,9 +3,10 @@
 #include <optional>
 
 #include "args/ZexArgs.hpp"
-#include "args/letter_case.hpp"
-#include "args/names.hpp"
+#include "args/known_names.hpp"
 #include "cmd/messages/raise.hpp"
+#include "platform/contains.hpp"
+#include "platform/letter_case.hpp"
 
 namespace zex_cmd {
 
@@ -56,7 +57,7 @@ void ZexArgs::takeLanguageOf(const std::string& extension) {
 
 void ZexArgs::mergeLanguage(std::vector<std::string>& list, const std::string& extension) const {
   const std::string language = languageOfExtension(extension);
-  if (holds(list, language)) return;
+  if (contains(list, language)) return;
   for (const MixingRule& rule : mixingRules) {
     const auto held = std::find(list.begin(), list.end(), rule.held);
     if (rule.incoming != language || held == list.end()) continue;

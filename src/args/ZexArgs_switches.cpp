@@ -1,8 +1,7 @@
 #include <cstdlib>
 
 #include "args/ZexArgs.hpp"
-#include "args/letter_case.hpp"
-#include "args/names.hpp"
+#include "args/known_names.hpp"
 #include "cmd/messages/notices.hpp"
 #include "cmd/messages/raise.hpp"
 #include "cmd/messages/show.hpp"
@@ -10,6 +9,8 @@
 #include "fl/filesystem/exceptions.hpp"
 #include "fl/filesystem/operations.hpp"
 #include "fl/i18n/strings.hpp"
+#include "platform/contains.hpp"
+#include "platform/letter_case.hpp"
 #include "platform/paths.hpp"
 #include "platform/quoting.hpp"
 
@@ -68,7 +69,7 @@ Verdict takeRelease(ZexArgs& args, Switch& item) {
 
 void takeClient(ZexArgs& args, const ustring& value) {
   args.client = uppered(fl::i18n::to_string(value));
-  if (holds(clientNames, args.client)) return;
+  if (contains(clientNames, args.client)) return;
   args.client.clear();
   raiseTyped(msg::UnknownClient(value));
 }
@@ -206,7 +207,7 @@ Verdict takeVerbose(ZexArgs& args, Switch& item) {
 
 Verdict takeArchitecture(ZexArgs& args, Switch& item) {
   const std::string name = item.form.substr(1);
-  if (!holds(architectureNames, name)) return Verdict::NotMine;
+  if (!contains(architectureNames, name)) return Verdict::NotMine;
   args.arch = name;
   return Verdict::Taken;
 }
@@ -231,7 +232,7 @@ bool isTaken(ZexArgs& args, Switch& item) {
 
 void ZexArgs::parseSwitch(const std::vector<ustring>& tokens, std::size_t& index) {
   const ustring& token = tokens[index];
-  Switch item{tokens, index, token, testForm(token), token};
+  Switch item{tokens, index, token, caseFolded(token), token};
   try {
     if (!isTaken(*this, item)) raiseTyped(msg::UnknownSwitch(token));
   } catch (const fl::filesystem::FsysExceptionBase&) {

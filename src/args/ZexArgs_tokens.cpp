@@ -1,9 +1,9 @@
 #include "args/ZexArgs.hpp"
 #include "args/assignments.hpp"
-#include "args/letter_case.hpp"
 #include "cmd/messages/raise.hpp"
 #include "fl/filesystem/exceptions.hpp"
 #include "fl/filesystem/operations.hpp"
+#include "platform/letter_case.hpp"
 #include "platform/quoting.hpp"
 #include "platform/tokens.hpp"
 
@@ -29,7 +29,7 @@ void takeResponseFile(ZexArgs& args, const ustring& token) {
 
 void takeToken(ZexArgs& args, const std::vector<ustring>& tokens, std::size_t& index) {
   const ustring& token = tokens[index];
-  const std::string form = testForm(token);
+  const std::string form = caseFolded(token);
   if (form.empty()) return;
   if (isMisplacedHelp(form)) raiseTyped(msg::UnknownSwitch(token));
   if (form.front() == '@') {

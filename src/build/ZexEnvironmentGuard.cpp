@@ -8,6 +8,7 @@
 #include "fl/i18n/environment.hpp"
 #include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
+#include "platform/shell_conventions.hpp"
 #include "services/io/uout.hpp"
 
 namespace zex_cmd {

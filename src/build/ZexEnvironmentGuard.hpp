@@ -28,7 +28,4 @@ class ZexEnvironmentGuard {
   std::map<std::string, ustring> former_;
 };
 
-/// An environment value with another one put ahead of it, joined as the platform's tools expect.
-ustring joinedEnvironmentValue(const ustring& first, const ustring& former);
-
 }  // namespace zex_cmd

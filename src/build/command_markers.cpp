@@ -1,7 +1,7 @@
 #include "build/command_markers.hpp"
 
-#include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
+#include "platform/letter_case.hpp"
 
 namespace zex_cmd {
 
@@ -17,7 +17,7 @@ constexpr CommandMarkers rows[] = {
 }  // namespace
 
 const CommandMarkers& markersFor(const ZexOpt& option) {
-  const ustring manufacturer = fl::i18n::lcctype::transform(option.attribute(u"MANUFACTURER"), fl::i18n::to_lower);
+  const ustring manufacturer = lowered(option.attribute(u"MANUFACTURER"));
   const CommandMarkers* row = rows;
   while (!row->manufacturer.empty() && row->manufacturer != manufacturer) ++row;
   return *row;

@@ -10,6 +10,7 @@
 #include "options/ZexOpt.hpp"
 #include "platform/ShellCommand.hpp"
 #include "platform/architecture.hpp"
+#include "platform/letter_case.hpp"
 #include "platform/tokens.hpp"
 #include "services/io/uout.hpp"
 
@@ -19,10 +20,6 @@ namespace {
 
 constexpr double supportedGcc = 6.3;
 constexpr char16_t supportedMinGw[] = u"5.3.0";
-
-ustring lowered(const ustring& text) {
-  return fl::i18n::lcctype::transform(text, fl::i18n::to_lower);
-}
 
 /// What a program prints; its exit status does not count.
 ustring outputOf(const ustring& command, bool calledFromHost) {

@@ -38,8 +38,8 @@ bool isInSearchPath(const ustring& fileName, const std::vector<ustring>& searchP
 
 /// The candidate whose file is there, as it stands in the switch text. Nothing where there are no candidates at
 /// all.
-std::optional<ustring> resolvedTerm(const ustring& library, const ustring& switchText,
-                                    const std::vector<ustring>& searchPath) {
+std::optional<ustring> foundCandidate(const ustring& library, const ustring& switchText,
+                                      const std::vector<ustring>& searchPath) {
   std::vector<ustring> tried;
   for (const ustring& candidate : nonEmptyTokens(switchText)) {
     tried.push_back(libraryFileName(candidate));
@@ -68,11 +68,11 @@ void resolveLibraries(ZexOpt& option, const ZexVarResolver& resolver, const ZexA
   const std::vector<ustring> keys = option.attributePaths(u"config.vars");
   for (const ustring& library : nonEmptyTokens(args.libraries)) {
     const ustring switchText = resolver.formatArgument(option, library, "LinkerLibrarySwitchFormatter");
-    const std::optional<ustring> term = resolvedTerm(library, switchText, searchPath);
-    if (!term) continue;
+    const std::optional<ustring> found = foundCandidate(library, switchText, searchPath);
+    if (!found) continue;
     for (const ustring& key : keys) {
       if (!takesLibraries(shortName(key))) continue;
-      if (const auto value = option.value(key)) option.setValue(key, replacedAll(*value, switchText, *term));
+      if (const auto value = option.value(key)) option.setValue(key, replacedAll(*value, switchText, *found));
     }
   }
 }

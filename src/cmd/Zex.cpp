@@ -1,6 +1,5 @@
 #include "cmd/Zex.hpp"
 
-#include <algorithm>
 #include <boost/make_shared.hpp>
 
 #include "args/ZexArgs.hpp"
@@ -13,20 +12,13 @@
 #include "compilers/ZexSetup.hpp"
 #include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
+#include "platform/contains.hpp"
 
 namespace zex_cmd {
 
-namespace {
-
-bool holds(const std::vector<ustring>& arguments, const ustring& word) {
-  return std::find(arguments.begin(), arguments.end(), word) != arguments.end();
-}
-
-}  // namespace
-
 void Zex::run(const std::vector<ustring>& arguments) {
-  if (holds(arguments, u"-h") || holds(arguments, u"-help")) return printHelp();
-  if (holds(arguments, u"-ada")) return runAdaRoute(arguments);
+  if (contains(arguments, u"-h") || contains(arguments, u"-help")) return printHelp();
+  if (contains(arguments, u"-ada")) return runAdaRoute(arguments);
 
   resetReportBuffers();
   args_ = boost::make_shared<ZexArgs>();

@@ -1,12 +1,12 @@
-#include <algorithm>
 #include <cstddef>
 
-#include "args/letter_case.hpp"
 #include "cmd/Zex.hpp"
 #include "cmd/messages/raise.hpp"
 #include "compilers/ZexCompilers.hpp"
 #include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
+#include "platform/contains.hpp"
+#include "platform/letter_case.hpp"
 
 namespace zex_cmd {
 
@@ -16,15 +16,13 @@ constexpr const char* languageWords[] = {"c", "cpp", "c++", "fortran", "any"};
 constexpr const char* kindWords[] = {"selected", "installed", "supported", "default"};
 
 /// A PRIORITY that begins with this character or a higher one is never the default.
-constexpr char16_t priorityCeiling = 0x7a;
+constexpr char16_t neverDefault = 0x7a;
 
 /// The word in lower case, if the list has it.
 template <std::size_t Count>
 std::string lowerWordOf(const char* const (&words)[Count], const std::string& word) {
   std::string lower = lowered(word);
-  if (std::find(std::begin(words), std::end(words), lower) == std::end(words)) {
-    raiseTyped(msg::UnknownSwitch(word));
-  }
+  if (!contains(words, lower)) raiseTyped(msg::UnknownSwitch(word));
   return lower;
 }
 
@@ -56,7 +54,7 @@ std::vector<CompilerRecord> Zex::queryCompilers(const std::string& language, con
 std::vector<CompilerRecord> Zex::recordsOf(const std::string& kind) const {
   std::vector<CompilerRecord> records;
   const ZexOpt* best = nullptr;
-  char16_t lowest = priorityCeiling;
+  char16_t lowest = neverDefault;
   for (const auto& [path, opt] : compilers_->cachedOpts()) {
     if (kind == "default") {
       const char16_t priority = priorityOf(*opt);

@@ -11,17 +11,17 @@
 #include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
 #include "platform/folders.hpp"
+#include "platform/letter_case.hpp"
 
 namespace zex_cmd {
 
 namespace fs = fl::filesystem;
-using fl::i18n::lcctype;
 
 namespace {
 
 bool isXmlFile(const fs::upath_directory_entry& entry) {
   const ustring extension = u"." + fs::detail::extract_extension(entry.file_name());
-  return lcctype::transform(extension, fl::i18n::to_lower) == u".xml";
+  return lowered(extension) == u".xml";
 }
 
 }  // namespace

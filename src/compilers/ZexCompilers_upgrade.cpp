@@ -11,11 +11,11 @@
 #include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
 #include "platform/folders.hpp"
+#include "platform/letter_case.hpp"
 
 namespace zex_cmd {
 
 namespace fs = fl::filesystem;
-using fl::i18n::lcctype;
 
 bool ZexCompilers::needsUpgrade(const ZexOpt& opt) const {
   if (!args().optionsFile.empty()) return false;
@@ -60,10 +60,9 @@ boost::shared_ptr<ZexOpt> ZexCompilers::findReplacementOpt(const boost::shared_p
 }
 
 bool ZexCompilers::isUnsupportedCompiler(const ZexOpt& opt) const {
-  const auto lower = [](const ustring& text) { return lcctype::transform(text, fl::i18n::to_lower); };
-  const ustring name = lower(opt.attribute(u"SHORTNAME"));
+  const ustring name = lowered(opt.attribute(u"SHORTNAME"));
   return std::any_of(unsupportedCompilers_.begin(), unsupportedCompilers_.end(),
-                     [&](const ustring& unsupported) { return lower(unsupported) == name; });
+                     [&](const ustring& unsupported) { return lowered(unsupported) == name; });
 }
 
 ustring ZexCompilers::selectedFileName(const ZexOpt& opt) const {

@@ -11,13 +11,13 @@
 #include "fl/i18n/strings.hpp"
 #include "options/ZexOpt.hpp"
 #include "platform/folders.hpp"
+#include "platform/letter_case.hpp"
 #include "platform/paths.hpp"
 #include "vars/ZexVarResolver.hpp"
 
 namespace zex_cmd {
 
 namespace fs = fl::filesystem;
-using fl::i18n::lcctype;
 
 ZexSetup::ZexSetup(boost::shared_ptr<ZexArgs> args, boost::shared_ptr<ZexCompilers> compilers,
                    const std::string& kind)
@@ -62,7 +62,7 @@ boost::shared_ptr<ZexOpt> ZexSetup::documentOfArgument() {
 ustring ZexSetup::targetDirectory() const {
   if (args_->optionsFile.empty()) return preferencesFolder();
   const ustring target = fullPath(args_->optionsFile);
-  const ustring extension = lcctype::transform(fs::detail::extract_extension(target), fl::i18n::to_lower);
+  const ustring extension = lowered(fs::detail::extract_extension(target));
   const bool namesFile =
       extension == u"xml" && (!fs::exists(target) || fs::is_regular(fs::status(args_->optionsFile)));
   return namesFile ? fs::detail::extract_parent_path(target) : target;

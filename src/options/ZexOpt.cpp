@@ -8,6 +8,7 @@
 #include "cmd/messages/raise.hpp"
 #include "fl/i18n/strings.hpp"
 #include "options/OptionTree.hpp"
+#include "platform/letter_case.hpp"
 
 namespace zex_cmd {
 
@@ -37,8 +38,7 @@ bool isOfLanguage(const ZexOpt& opt, const std::string& language) {
 }
 
 bool isNamed(const ZexOpt& opt, const ustring& shortNameFilter) {
-  return lcctype::transform(opt.attribute(u"SHORTNAME"), fl::i18n::to_lower) ==
-         lcctype::transform(shortNameFilter, fl::i18n::to_lower);
+  return lowered(opt.attribute(u"SHORTNAME")) == lowered(shortNameFilter);
 }
 
 }  // namespace

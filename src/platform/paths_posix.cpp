@@ -3,6 +3,7 @@
 #include "cmd/messages/raise.hpp"
 #include "fl/filesystem/operations.hpp"
 #include "platform/paths.hpp"
+#include "platform/shell_conventions.hpp"
 
 namespace zex_cmd {
 
@@ -10,13 +11,6 @@ namespace {
 
 /// Units of the buffer that a full path must fit into together with its end mark.
 constexpr std::size_t bufferUnits = 512;
-
-/// Commands carry paths in double quotes at most, where a shell still acts upon these.
-constexpr fl::ustring_view shellActsUpon = u"$`\";\n";
-
-bool isCarriedByShell(const ustring& path) {
-  return path.find_first_of(shellActsUpon) == ustring::npos;
-}
 
 void dropLastFolder(ustring& folded) {
   if (!folded.empty()) folded.erase(folded.rfind(u'/'));

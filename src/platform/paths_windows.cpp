@@ -1,23 +1,13 @@
 #include <stdlib.h>
 
-#include <algorithm>
 #include <array>
 #include <string_view>
 
 #include "cmd/messages/raise.hpp"
 #include "platform/paths.hpp"
+#include "platform/shell_conventions.hpp"
 
 namespace zex_cmd {
-
-namespace {
-
-/// Sources are kept as a list with ";" between them, and the shell puts the value of a variable in place of its
-/// name between two "%", in double quotes too.
-bool isCarriedByShell(const ustring& path) {
-  return path.find(u';') == ustring::npos && std::count(path.begin(), path.end(), u'%') < 2;
-}
-
-}  // namespace
 
 ustring fullPath(const ustring& path) {
   std::array<wchar_t, 512> buffer{};

@@ -1,6 +1,6 @@
 #include "platform/quoting.hpp"
 
-#include "platform/shell_signs.hpp"
+#include "platform/shell_conventions.hpp"
 
 namespace zex_cmd {
 
@@ -51,7 +51,7 @@ ustring quoteWhenNeeded(const ustring& text) {
 
 ustring quoteInCommand(const ustring& text) {
   const ustring quoted = quoteWhenNeeded(text);
-  return holdsOutsideQuotes(quoted, shellActsUpon) ? quoteAlways(quoted) : quoted;
+  return holdsOutsideQuotes(quoted, quotableSigns) ? quoteAlways(quoted) : quoted;
 }
 
 ustring quoteForPosix(const ustring& text) {

@@ -43,7 +43,7 @@ class ZexVarResolver {
   void keepObjectInRemoveCommands(ZexOpt& opt) const;
 
   boost::shared_ptr<ZexArgs> args_;
-  boost::shared_ptr<ZexCompilers> compilers_;
+  boost::shared_ptr<ZexCompilers> compilers_;  ///< kept alive with this object; no step reads it
   std::vector<ArgumentVariableRow> table_;
 };
 

@@ -2,8 +2,7 @@
 
 #include <string>
 
-#include "build/temporary/process_number.hpp"
-#include "build/temporary/time_stamp.hpp"
+#include "build/temporary/unique_numbers.hpp"
 #include "cmd/messages/ZexConfigPerTVM.hpp"
 #include "cmd/messages/verbose_lines.hpp"
 #include "fl/filesystem/exceptions.hpp"
@@ -11,6 +10,7 @@
 #include "fl/filesystem/path_names.hpp"
 #include "fl/i18n/environment.hpp"
 #include "fl/i18n/strings.hpp"
+#include "host/temporary_folders.hpp"
 
 namespace zex_cmd {
 
@@ -19,7 +19,7 @@ namespace fs = fl::filesystem;
 namespace {
 
 ustring firstSetFolder() {
-  for (const char* variable : {"TMPDIR", "TMP", "TEMP"}) {
+  for (const char* variable : host::temporaryFolderVariables) {
     const ustring value = fl::i18n::getenv(variable);
     if (!value.empty()) return value;
   }

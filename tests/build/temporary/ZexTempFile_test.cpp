@@ -4,7 +4,7 @@
 
 #include <regex>
 
-#include "build/temporary/process_number.hpp"
+#include "build/temporary/unique_numbers.hpp"
 #include "cmd/messages/ZexConfigPerTVM.hpp"
 #include "fl/filesystem/exceptions.hpp"
 #include "support/RecordingServices.hpp"

@@ -1,4 +1,4 @@
-#include "build/temporary/time_stamp.hpp"
+#include "build/temporary/unique_numbers.hpp"
 
 #if defined(_M_X64) || defined(_M_IX86)
 #include <intrin.h>

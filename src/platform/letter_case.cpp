@@ -1,4 +1,4 @@
-#include "args/letter_case.hpp"
+#include "platform/letter_case.hpp"
 
 #include <locale>
 
@@ -18,7 +18,11 @@ std::string uppered(std::string text) {
   return text;
 }
 
-std::string testForm(const ustring& token) {
+ustring lowered(const ustring& text) {
+  return fl::i18n::lcctype::transform(text, fl::i18n::to_lower);
+}
+
+std::string caseFolded(const ustring& token) {
   return lowered(fl::i18n::to_string(token));
 }
 

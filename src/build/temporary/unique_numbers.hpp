@@ -8,4 +8,7 @@ namespace zex_cmd {
 /// in a row are not expected to meet, which nothing guarantees.
 std::uint64_t timeStampCount();
 
+/// Number of this process, as the system gives it.
+std::uint64_t processNumber();
+
 }  // namespace zex_cmd

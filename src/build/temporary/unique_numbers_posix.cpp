@@ -1,6 +1,6 @@
 #include <unistd.h>
 
-#include "build/temporary/process_number.hpp"
+#include "build/temporary/unique_numbers.hpp"
 
 namespace zex_cmd {
 
