@@ -15,53 +15,42 @@ namespace {
 using fl::ustring;
 
 /// A message of the test's own.
-class Record : public resource_core::BaseMsgID {
- public:
-  explicit Record(std::string tag, std::vector<ustring> arguments = {})
-      : tag_(std::move(tag)), arguments_(std::move(arguments)) {}
-  const std::string& component() const override { return component_; }
-  const std::string& tag() const override { return tag_; }
-  std::size_t argumentCount() const override { return arguments_.size(); }
-  ustring argument(std::size_t index) const override { return arguments_.at(index); }
+struct Record : resource_core::BaseMsgID {
+  Record(std::string name, std::vector<ustring> values) : tagged(std::move(name)), arguments(std::move(values)) {}
+  const std::string& component() const override { return owner; }
+  const std::string& tag() const override { return tagged; }
+  std::size_t argumentCount() const override { return arguments.size(); }
+  ustring argument(std::size_t index) const override { return arguments.at(index); }
 
- private:
-  std::string component_ = "TESSEL:zex", tag_;
-  std::vector<ustring> arguments_;
+  std::string owner = "TESSEL:zex", tagged;
+  std::vector<ustring> arguments;
 };
 
-class Catalogue : public testing::Test {
- protected:
-  Catalogue() {
-    host_.install = scratch_.path();
-    scratch_.write("resources/zex/en/messages.txt",
-                   "\xEF\xBB\xBF# TESSEL:zex:Comment = no\n\n"
-                   "TESSEL:zex:Two = {1} before {0}\\n\\\\n {{0}} {2} {x} {\n"
-                   "  TESSEL:zex:Trailing  = a = b \r\n"
-                   "a line that is none\n"
-                   "TESSEL:zex:Land = English");
-    scratch_.write("resources/zex/de/messages.txt", "TESSEL:zex:Land = Sprache \xC3\xBC\nTESSEL:zex:Both = de\n");
-    scratch_.write("resources/zex/de_CH/messages.txt", "TESSEL:zex:Both = de_CH\n");
-  }
-
-  static ustring words(const Record& record, const std::string& locale = "en") {
-    return fl::i18n::MessageCatalog::get_message(record, fl::i18n::ZwLocale(locale));
-  }
-
-  const zex_test::Scratch scratch_;
-  zex_test::RecordingServices host_;
-};
-
-TEST_F(Catalogue, FillsArgumentsInAndNeverReadsThemAgain) {
-  EXPECT_EQ(words(Record("Two", {u"{1}\\n", u"ü"})), u"ü before {1}\\n\n\\n {0} {2} {x} {");
-  EXPECT_EQ(words(Record("Trailing")), u"a = b ");
-}
-
-TEST_F(Catalogue, FallsBackFromCountryToLanguageToEnglishToTheIdentifier) {
-  EXPECT_EQ(words(Record("Both"), "de_CH"), u"de_CH");
-  EXPECT_EQ(words(Record("Land"), "de_CH"), u"Sprache ü");
-  EXPECT_EQ(words(Record("Land"), "fr_FR"), u"English");
-  EXPECT_EQ(words(Record("Absent", {u"a", u""}), "de"), u"TESSEL:zex:Absent(\"a\", \"\")");
-  EXPECT_EQ(words(Record("Land", {u"\"\\\n\x1b"}), "id"), u"TESSEL:zex:Land(\"\\\"\\\\\\n\\x1B\")");
+TEST(Catalogue, FillsArgumentsInAndFallsBackFromCountryToLanguageToEnglishToTheIdentifier) {
+  const zex_test::Scratch scratch;
+  zex_test::RecordingServices host;
+  host.install = scratch.path();
+  scratch.write("resources/zex/en/messages.txt",
+                "\xEF\xBB\xBF# TESSEL:zex:Comment = no\n\n"
+                "TESSEL:zex:Two = {1} before {0}\\n\\\\n {{0}} {2} {x} {\n"
+                "  TESSEL:zex:Trailing  = a = b \r\n"
+                "a line that is none\n"
+                "TESSEL:zex:Land = English");
+  scratch.write("resources/zex/de/messages.txt", "TESSEL:zex:Land = Sprache \xC3\xBC\nTESSEL:zex:Both = de\n");
+  scratch.write("resources/zex/de_CH/messages.txt", "TESSEL:zex:Both = de_CH\n");
+  const struct {
+    const char *locale, *tag;
+    std::vector<ustring> arguments;
+    ustring words;
+  } rows[] = {{"en", "Two", {u"{1}\\n", u"ü"}, u"ü before {1}\\n\n\\n {0} {2} {x} {"},
+              {"en", "Trailing", {}, u"a = b "},
+              {"de_CH", "Both", {}, u"de_CH"},
+              {"de_CH", "Land", {}, u"Sprache ü"},
+              {"fr_FR", "Land", {}, u"English"},
+              {"de", "Absent", {u"a", u""}, u"TESSEL:zex:Absent(\"a\", \"\")"},
+              {"id", "Land", {u"\"\\\n\x1b"}, u"TESSEL:zex:Land(\"\\\"\\\\\\n\\x1B\")"}};
+  for (const auto& [locale, tag, arguments, words] : rows)
+    EXPECT_EQ(fl::i18n::MessageCatalog::get_message(Record(tag, arguments), fl::i18n::ZwLocale(locale)), words);
 }
 
 TEST(Locale, ComesFromTheFirstVariableThatSaysSomething) {

@@ -7,17 +7,18 @@
 
 namespace {
 
+using settings::core::getPreferencesDirectoryUStr;
 using zex_test::ScopedVariable;
 
 TEST(Standalone, PreferencesLieInTheUsersApplicationData) {
   const zex_test::Scratch scratch;
   const ScopedVariable data("APPDATA", scratch.folder() / "data");
-  EXPECT_EQ(settings::core::getPreferencesDirectoryUStr(false), scratch.path("data/TESSEL/R2018a"));
-  EXPECT_FALSE(scratch.has("data"));
-  EXPECT_EQ(settings::core::getPreferencesDirectoryUStr(true), scratch.path("data/TESSEL/R2018a"));
-  EXPECT_TRUE(scratch.has("data/TESSEL/R2018a"));
+  for (const bool made : {false, true}) {
+    EXPECT_EQ(getPreferencesDirectoryUStr(made), scratch.path("data/TESSEL/R2018a"));
+    EXPECT_EQ(scratch.has("data/TESSEL/R2018a"), made);
+  }
   const ScopedVariable none("APPDATA", nullptr);
-  EXPECT_THROW(settings::core::getPreferencesDirectoryUStr(false), fl::filesystem::PathNotFound);
+  EXPECT_THROW(getPreferencesDirectoryUStr(false), fl::filesystem::PathNotFound);
 }
 
 TEST(Standalone, AShellLineGivesItsTextAndStatus) {

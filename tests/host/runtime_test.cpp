@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <limits>
@@ -12,8 +13,18 @@
 #include <vector>
 
 #include "zex.h"
+#undef zxReadComplexes
 
-extern "C" ZX_API std::int32_t zxColumnsOf_32(const zxArray* array);
+extern "C" {
+// What extensions call that are compiled in another way than this file, or in Fortran.
+ZX_API std::int32_t zxRowsOf_32(const zxArray* array);
+ZX_API std::int32_t zxColumnsOf_32(const zxArray* array);
+ZX_API std::int32_t zxCountOf_32(const zxArray* array);
+ZX_API const zxComplex* zxReadComplexes(const zxArray* array);
+ZX_API void zex_fail_(const char* identifier, const char* message, std::size_t, std::size_t);
+ZX_API void zex_print_(const char* text, std::size_t length);
+ZX_API zxArray* zx_make_text_(const char* text, std::size_t length);
+}
 
 namespace {
 
@@ -23,121 +34,133 @@ Value owned(zxArray* array) {
   return {array, zxDestroyArray};
 }
 
-/// Arguments of a call, and what the entry point below does with them.
-struct Called {
-  int nlhs;
-  zxArray** plhs;
-  const zxArray** prhs;
-};
-std::function<void(const Called&)> body;
+/// What the entry point below does with its input and its places for outputs.
+using Body = std::function<void(const zxArray* input, zxArray** outputs)>;
+Body body;
 
-void enter(int nlhs, zxArray* plhs[], int /*nrhs*/, const zxArray* prhs[]) {
-  const auto running = body;  // a call within the call sets it anew
-  running({nlhs, plhs, prhs});
+void enter(int /*nlhs*/, zxArray* plhs[], int /*nrhs*/, const zxArray* prhs[]) {
+  const Body running = body;  // a call within the call sets it anew
+  running(prhs[0], plhs);
 }
 
-/// How a call with one input, a row of two numbers, and two outputs ends.
-std::string outcome(const std::function<void(const Called&)>& action, std::vector<Value>* outputs = nullptr) {
+/// How a call with one input, a row of two numbers, and two outputs ends; outputs do not outlive it.
+std::string outcome(const Body& action) {
   const Value input = owned(zxMake(ZX_REAL, 1, 2));
   const zxArray* inputs[] = {input.get()};
   zxArray* places[] = {nullptr, nullptr};
   body = action;
   const zxFailure* const failure = zxCallEntry(enter, 2, places, 1, inputs);
-  for (zxArray* place : places) {
-    EXPECT_TRUE(failure == nullptr || place == nullptr);
-    if (outputs != nullptr) outputs->push_back(owned(place));
+  if (failure == nullptr) {
+    for (zxArray* const place : places) zxDestroyArray(place);
+    return "fine";
   }
-  return failure == nullptr ? "fine" : std::string(failure->identifier) + " " + failure->message;
-}
-
-std::string identifierOf(const std::function<void(const Called&)>& action) {
-  const std::string text = outcome(action);
-  return text.substr(0, text.find(' '));
-}
-
-/// An array that counts its own end.
-zxArray* counted(int& ends) {
-  return zxWrapObject(&ends, [](void* object) { ++*static_cast<int*>(object); });
+  EXPECT_TRUE(places[0] == nullptr && places[1] == nullptr);
+  return std::string(failure->identifier) + " " + failure->message;
 }
 
 TEST(Runtime, EveryMisuseHasItsError) {
   constexpr auto largest = std::numeric_limits<zxIndex>::max();
-  struct Case {
-    const char* identifier;
-    std::function<void(const Called&)> misuse;
+  constexpr zxIndex wide = zxIndex{1} << 40;
+  const std::pair<std::string, Body> cases[] = {
+      {"TESSEL:zx:NoArray", [](auto*, auto**) { zxRowsOf(nullptr); }},
+      {"TESSEL:zx:NoSuchKind", [](auto*, auto**) { zxMake(static_cast<zxKind>(14), 1, 1); }},
+      {"TESSEL:zx:WrongKind", [](auto* input, auto**) { zxReadData(input, ZX_INT8); }},
+      {"TESSEL:zx:WrongKind", [](auto*, auto**) { zxMake(ZX_TEXT, 1, 1); }},
+      {"TESSEL:zx:WrongSize", [](auto*, auto**) { zxMake(ZX_REAL, -1, 1); }},
+      {"TESSEL:zx:WrongSize", [](auto*, auto**) { zxSetImagData(zxMake(ZX_REAL, 2, 1), 1, largest, nullptr); }},
+      {"TESSEL:zx:NoText", [](auto*, auto**) { zxCreateString(nullptr); }},
+      {"TESSEL:zx:NoText", [](auto*, auto**) { zexFail(nullptr, "x"); }},
+      {"TESSEL:zx:NoValues", [](auto*, auto**) { zxSetPi(zxMakeReal(1), nullptr); }},
+      {"TESSEL:zx:TooLarge", [](auto*, auto**) { zxMake(ZX_REAL, largest, 2); }},
+      {"TESSEL:zx:TooLarge", [](auto*, auto**) { zxRowsOf_32(zxMake(ZX_INT8, wide, 0)); }},
+      {"TESSEL:zx:TooLarge", [](auto*, auto**) { zxColumnsOf_32(zxMake(ZX_INT8, 0, wide)); }},
+      {"TESSEL:zx:NoNumber", [](auto* input, auto**) { zxNumber(input); }},
+      {"TESSEL:zx:InputDestroyed", [](auto* input, auto**) { zxDestroyArray(const_cast<zxArray*>(input)); }},
+      {"TESSEL:zx:ForeignOutput", [](auto* input, auto** out) { out[0] = const_cast<zxArray*>(input); }},
+      {"TESSEL:zx:ForeignOutput", [](auto*, auto** out) { out[0] = out[1] = zxMakeReal(1); }},
+      {"TESSEL:zx:OutOfMemory", [](auto*, auto**) { throw std::bad_alloc(); }},
+      {"TESSEL:zx:UncaughtException", [](auto*, auto**) { throw std::runtime_error("x"); }},
   };
-  const Case cases[] = {
-      {"TESSEL:zx:NoArray", [](const Called&) { zxRowsOf(nullptr); }},
-      {"TESSEL:zx:WrongKind", [](const Called& call) { zxReadData(call.prhs[0], ZX_INT8); }},
-      {"TESSEL:zx:WrongSize", [](const Called&) { zxMake(ZX_REAL, -1, 1); }},
-      {"TESSEL:zx:WrongSize", [](const Called&) { zxSetImagData(zxMake(ZX_REAL, 2, 1), 1, largest, nullptr); }},
-      {"TESSEL:zx:NoText", [](const Called&) { zxCreateString(nullptr); }},
-      {"TESSEL:zx:NoText", [](const Called&) { zexFail(nullptr, "x"); }},
-      {"TESSEL:zx:NoValues", [](const Called&) { zxSetPi(zxMakeReal(1), nullptr); }},
-      {"TESSEL:zx:TooLarge", [](const Called&) { zxMake(ZX_REAL, largest, 2); }},
-      {"TESSEL:zx:TooLarge", [](const Called&) { zxColumnsOf_32(zxMake(ZX_INT8, 0, zxIndex{1} << 40)); }},
-      {"TESSEL:zx:NoNumber", [](const Called& call) { zxNumber(call.prhs[0]); }},
-      {"TESSEL:zx:InputDestroyed", [](const Called& call) { zxDestroyArray(const_cast<zxArray*>(call.prhs[0])); }},
-      {"TESSEL:zx:ForeignOutput", [](const Called& call) { call.plhs[0] = const_cast<zxArray*>(call.prhs[0]); }},
-      {"TESSEL:zx:ForeignOutput", [](const Called& call) { call.plhs[0] = call.plhs[1] = zxMakeReal(1); }},
-      {"TESSEL:zx:OutOfMemory", [](const Called&) { throw std::bad_alloc(); }},
-      {"TESSEL:zx:UncaughtException", [](const Called&) { throw std::runtime_error("x"); }},
-  };
-  for (const Case& row : cases) EXPECT_EQ(identifierOf(row.misuse), row.identifier) << &row - cases;
-}
-
-TEST(Runtime, AnErrorKeepsItsWords) {
-  const std::string longText(5000, 'x');
-  const auto fail = [&](const Called&) { zexFail("a:b", "%s %d%%", longText.c_str(), 7); };
-  EXPECT_EQ(outcome(fail), "a:b " + longText + " 7%");
+  for (const auto& [identifier, misuse] : cases) {
+    const std::string text = outcome(misuse);
+    EXPECT_EQ(text.substr(0, text.find(' ')), identifier) << &misuse - &cases[0].second;
+  }
 }
 
 TEST(Runtime, WhatIsNotReturnedEndsWithTheCall) {
   int ends = 0;
-  std::vector<Value> outputs;
-  const auto makeThree = [&](const Called& call) {
-    call.plhs[1] = counted(ends);
-    zxDestroyArray(counted(ends));
-    counted(ends);
+  const auto counted = [&] { return zxWrapObject(&ends, [](void* object) { ++*static_cast<int*>(object); }); };
+  const Body makeThree = [&](auto*, auto** outputs) {
+    outputs[1] = counted();
+    EXPECT_EQ(outcome([](auto*, auto** inner) { inner[0] = zxMakeReal(1); }), "fine");
+    zxDestroyArray(counted());
+    counted();
+    EXPECT_EQ(ends, 1);
   };
-  EXPECT_EQ(outcome(makeThree, &outputs), "fine");
-  EXPECT_EQ(ends, 2);
-  outputs.clear();
+  EXPECT_EQ(outcome(makeThree), "fine");
   EXPECT_EQ(ends, 3);
 
   ends = 0;
-  const auto makeAndFail = [&](const Called& call) {
-    makeThree(call);
-    zexFail("a:b", "c");
+  const std::string longText(5000, 'x');
+  const Body makeAndFail = [&](auto* input, auto** outputs) {
+    makeThree(input, outputs);
+    zexFail("a:b", "%s %d%%", longText.c_str(), 7);
   };
-  EXPECT_EQ(outcome(makeAndFail), "a:b c");
+  EXPECT_EQ(outcome(makeAndFail), "a:b " + longText + " 7%");
   EXPECT_EQ(ends, 3);
 }
 
-TEST(Runtime, NumbersOfEveryKindAreRead) {
-  const auto number = [](zxKind kind, auto value) {
+template <class Number>
+void expectNumbersOf(zxKind kind) {
+  for (const Number number : {std::numeric_limits<Number>::min(), std::numeric_limits<Number>::max()}) {
     const Value array = owned(zxMake(kind, 1, 1));
-    *static_cast<decltype(value)*>(zxEditData(array.get(), kind)) = value;
-    return zxNumber(array.get());
-  };
-  EXPECT_EQ(number(ZX_INT16, std::int16_t{-300}), -300);
-  EXPECT_EQ(number(ZX_INT64, std::int64_t{-5000000000}), -5e9);
-  EXPECT_EQ(number(ZX_UINT64, std::uint64_t{1} << 63), 9223372036854775808.0);
+    *static_cast<Number*>(zxEditData(array.get(), kind)) = number;
+    EXPECT_EQ(zxNumber(owned(zxCopy(array.get())).get()), static_cast<double>(number)) << kind;
+  }
 }
 
-TEST(Runtime, ImaginaryPartsMayComeFromTheArrayItself) {
-  const Value array = owned(zxMakeReal(3));
-  zxSetPi(array.get(), zxEditReals(array.get()));
-  EXPECT_EQ(zxReadRealPart(array.get())[0], 3);
-  EXPECT_EQ(zxGetPi(array.get())[0], 3);
+TEST(Runtime, NumbersOfEveryKindAreCopiedAndRead) {
+  expectNumbersOf<double>(ZX_REAL);
+  expectNumbersOf<std::int8_t>(ZX_INT8);
+  expectNumbersOf<std::int16_t>(ZX_INT16);
+  expectNumbersOf<std::int32_t>(ZX_INT32);
+  expectNumbersOf<std::int64_t>(ZX_INT64);
+  expectNumbersOf<std::uint8_t>(ZX_UINT8);
+  expectNumbersOf<std::uint16_t>(ZX_UINT16);
+  expectNumbersOf<std::uint32_t>(ZX_UINT32);
+  expectNumbersOf<std::uint64_t>(ZX_UINT64);
+  expectNumbersOf<unsigned char>(ZX_LOGICAL);
+}
+
+TEST(Runtime, ImaginaryPartsComeFromAnywhere) {
+  const Value array = owned(zxMake(ZX_REAL, 1, 2));
+  zxEditReals(array.get())[0] = 1;
+  zxEditReals(array.get())[1] = 2;
+  zxSetPi(array.get(), zxEditReals(array.get()));  // from the array itself, whose elements move
+  const double seven = 7;
+  zxSetImagData(array.get(), 1, 1, &seven);
+  const Value copy = owned(zxCopy(array.get()));
+  const double expected[] = {1, 1, 2, 7};
+  EXPECT_TRUE(std::equal(expected, expected + 4, &zxReadComplexes(copy.get())->re));
+  EXPECT_EQ(zxGetImagData(copy.get())[1], 7);
 }
 
 TEST(Runtime, TextsComeInBothEncodings) {
   const Value text = owned(zxCreateString("é𝄞\xff"));
   EXPECT_EQ(std::u16string(zxReadText_UTF16(text.get())), u"é𝄞\uFFFD");
-  EXPECT_STREQ(zxReadText(text.get()), "é𝄞\uFFFD");
-  EXPECT_EQ(zxCountOf(text.get()), 4);
+  EXPECT_EQ(zxCountOf_32(text.get()), 4);
   EXPECT_STREQ(zxReadText(owned(zxCopy(text.get())).get()), "é𝄞\uFFFD");
+}
+
+TEST(Runtime, TextsOfFortranLoseTheirPadding) {
+  static std::string printed;
+  zxSetWriter([](const char* text, std::size_t length) { printed.append(text, length); });
+  zex_print_(" a b  x", 6);
+  zex_print_("  ", 2);
+  zxSetWriter(nullptr);
+  EXPECT_EQ(printed, " a b\n\n");
+  EXPECT_EQ(outcome([](auto*, auto**) { zex_fail_("a:b  ", "words ", 5, 6); }), "a:b words");
+  EXPECT_STREQ(zxReadText(owned(zx_make_text_("é  ", 4)).get()), "é");
 }
 
 }  // namespace

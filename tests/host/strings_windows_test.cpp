@@ -5,6 +5,7 @@
 #include "fl/i18n/strings.hpp"
 #include "support/Scratch.hpp"
 #include "support/platform.hpp"
+#include "support/texts.hpp"
 
 namespace {
 
@@ -20,16 +21,12 @@ TEST(Strings, TheNativeEncodingIsTheCodePage) {
 
 TEST(Environment, HoldsWhatTheCodePageCannot) {
   const zex_test::ScopedVariable restored("ZEX_TEST_SET", "old");
-  EXPECT_TRUE(setenv("ZEX_TEST_SET", u"漢 \"ü\" %PATH%"));
-  EXPECT_EQ(fl::i18n::getenv("ZEX_TEST_SET"), u"漢 \"ü\" %PATH%");
-  EXPECT_EQ(zex_test::variable("ZEX_TEST_SET"), "漢 \"ü\" %PATH%") << "what tools are given";
-  EXPECT_TRUE(setenv("ZEX_TEST_SET", u""));
-  EXPECT_EQ(fl::i18n::getenv("ZEX_TEST_SET"), u"");
-  EXPECT_EQ(zex_test::variable("ZEX_TEST_SET"), "") << "removed";
-  EXPECT_TRUE(setenv("ZEX_TEST_SET", u"")) << "a second time";
-
-  const std::string withZero("ZEX\0TEST", 8);
-  for (const std::string& refused : {std::string(), std::string("A=B"), withZero})
+  for (const char* value : {"漢 \"ü\" %PATH%", "", ""}) {
+    EXPECT_TRUE(setenv("ZEX_TEST_SET", zex_test::utf16(value)));
+    EXPECT_EQ(fl::i18n::getenv("ZEX_TEST_SET"), zex_test::utf16(value));
+    EXPECT_EQ(zex_test::variable("ZEX_TEST_SET"), value) << "what tools are given";
+  }
+  for (const std::string& refused : {std::string(), std::string("A=B"), std::string("ZEX\0TEST", 8)})
     EXPECT_FALSE(setenv(refused, u"x"));
   EXPECT_FALSE(setenv("ZEX_TEST_SET", ustring(u"a\0b", 3)));
 }

@@ -39,7 +39,6 @@ def found(document, variable):
 class Commands(ToolTest):
     def setUp(self):
         super().setUp()
-        self.folder = self.folder.resolve()
         for name in ("tmp", "preferences"):
             (self.folder / name).mkdir()
         for name in SOURCES.values():
@@ -70,17 +69,6 @@ class Commands(ToolTest):
         # The commands stand behind the ruled table of the document.
         return environment, re.split("\n-+\n", text)[-1].splitlines()
 
-    def check_kinds(self, document, commands, products):
-        """The driver tells a compile and a link by these marks, and looks for the file that follows them."""
-        compile_mark, link_mark = ("-c", "-o ") if document.gnu else ("/Fo", "/out:")
-        compiles = [compile_mark in command for command in commands]
-        self.assertEqual(compiles, [bool(re.search("<WORK>/a[.]|<TREE>/extern/version/", c)) for c in commands])
-        parts = [command.partition(link_mark) for command, is_compile in zip(commands, compiles) if not is_compile]
-        self.assertEqual([file.split()[0] for _, mark, file in parts if mark], products)
-        if not document.gnu:
-            for command in (command for command, is_compile in zip(commands, compiles) if is_compile):
-                self.assertRegex(command, r" /Fo(<TEMP>/)?\w+\.obj( |$)")
-
     def check_shell(self, document, command):
         self.assertNotRegex(command, REFERENCE)
         if document.posix:
@@ -93,13 +81,10 @@ class Commands(ToolTest):
 
     def blocks(self, document):
         source = SOURCES[document.config.get("Language")]
-        clients = {client.tag: client.get("LDEXT") for client in document.config.iterfind("client/*")}
         for index, request in enumerate(REQUESTS):
-            if "ENGINE" in request and "ENGINE" not in clients:
+            if "ENGINE" in request and document.config.find("client/ENGINE") is None:
                 continue
             environment, commands = self.commands(document, request.format(source))
-            extension = clients["ENGINE"] if "ENGINE" in request else document.vars["LDEXT"]
-            self.check_kinds(document, commands, [] if "-c " in request else [f"a{extension}"])
             for command in commands:
                 self.check_shell(document, command)
             shown = [*environment, *commands] if index == 0 else [c for c in commands if not ALWAYS.search(c)]
@@ -127,15 +112,13 @@ class Commands(ToolTest):
         for arch in ("maci64", "win32", "win64"):
             natives = {d.config.get("Name") for d in shipped_documents() if d.arch == arch and not d.cross}
             for language in PROMISED[arch]:
-                result = self.zex({}, "-v", f"-{arch}", "-setup", language.lower())
-                self.assertRegex(result.stderr, r"\A(zex: .*\n)*\Z")
-                for search in result.stdout.split("TESSEL:zex:LookingCompiler")[1:]:
+                told = self.zex({}, "-v", f"-{arch}", "-setup", language.lower()).stdout
+                for search in told.split("TESSEL:zex:LookingCompiler")[1:]:
                     name = search.split('"')[1]
-                    with self.subTest(arch=arch, compiler=name):
-                        if name in natives:
-                            natives.remove(name)
-                            self.assertIn("TESSEL:zex:NotInstalledCompiler", search)
-                            self.assertNotIn("TESSEL:zex:ExecutingCmd", search)
+                    if name in natives:
+                        natives.remove(name)
+                        self.assertIn("TESSEL:zex:NotInstalledCompiler", search)
+                        self.assertNotIn("TESSEL:zex:ExecutingCmd", search)
             self.assertEqual(natives, set())
 
 

@@ -12,22 +12,18 @@ import xml.etree.ElementTree as ElementTree
 from tree import DATA
 
 ZEXOPTS = DATA / "bin/glnxa64/zexopts"
-VISUAL = "vc2022 vc2019 vc2017 vc2015".split()
-VISUALXX = "vc++2022 vc++2019 vc++2017 vc++2015".split()
+VISUAL = "vc2022 vc2019 vc2017 vc2015"
+VISUALXX = "vc++2022 vc++2019 vc++2017 vc++2015"
 # The compilers of each architecture by language, in the order in which the driver takes them.
 PROMISED = {
-    "glnxa64": {"C": ["gcc", "clang"], "C++": ["g++", "clang++"], "CUDA": ["nvcc"], "FORTRAN": ["gfortran"]},
-    "maci64": {"C": ["clang"], "C++": ["clang++"], "FORTRAN": ["gfortran"]},
-    "win32": {
-        "C": [*VISUAL, "mingw-gcc"],
-        "C++": [*VISUALXX, "mingw-g++"],
-        "FORTRAN": ["ifort", "mingw-gfortran"],
-    },
+    "glnxa64": {"C": "gcc clang", "C++": "g++ clang++", "CUDA": "nvcc", "FORTRAN": "gfortran"},
+    "maci64": {"C": "clang", "C++": "clang++", "FORTRAN": "gfortran"},
+    "win32": {"C": f"{VISUAL} mingw-gcc", "C++": f"{VISUALXX} mingw-g++", "FORTRAN": "ifort mingw-gfortran"},
     "win64": {
-        "C": [*VISUAL, "mingw-gcc"],
-        "C++": [*VISUALXX, "mingw-g++"],
-        "CUDA": ["nvcc"],
-        "FORTRAN": ["ifx", "ifort", "mingw-gfortran"],
+        "C": f"{VISUAL} mingw-gcc",
+        "C++": f"{VISUALXX} mingw-g++",
+        "CUDA": "nvcc",
+        "FORTRAN": "ifx ifort mingw-gfortran",
     },
 }
 # Set by the driver for each request, or gone when undefined.
@@ -35,11 +31,6 @@ DRIVER_VARIABLES = set(
     "TESSELROOT ARCH SRC OBJ OBJS SRCROOT DEF EXP LIB EXE ILK MANIFEST TEMPNAME EXEDIR EXENAME"
     " OPTIM LINKOPTIM CLIBS CXXLIBS FLIBS".split()
 )
-# Names of variables that the driver reads, by attribute of "Details"; the first three are not a user's to assign.
-NAMING = (
-    "IncludeFlags CompilerDefines LinkerLibraries"
-    " OptimizationFlags DebugFlags LinkerOptimizationFlags LinkerDebugFlags"
-).split()
 
 REFERENCE = re.compile(r"\$([A-Z][A-Z0-9_]+)")
 RAW_ATTRIBUTE = re.compile(r"""[\w:.-]+\s*=\s*("[^"]*"|'[^']*')""")
@@ -83,20 +74,19 @@ def for_each_document(test):
 class Documents(unittest.TestCase):
     def test_the_promised_compilers_are_there_in_their_order(self):
         found = {}
-        for document in shipped_documents():
-            languages = found.setdefault(document.arch, {})
-            languages.setdefault(document.config.get("Language"), []).append(document)
-        for arch, promised in PROMISED.items():
-            for language, documents in found[arch].items():
-                with self.subTest(arch=arch, language=language):
-                    documents.sort(key=lambda document: document.config.get("Priority"))
-                    natives = [document for document in documents if not document.cross]
-                    self.assertEqual([native.config.get("ShortName") for native in natives], promised[language])
-                    # Those of another system come behind.
-                    self.assertEqual(documents[: len(natives)], natives)
-                    for key in ("Name", "ShortName", "Priority"):
-                        self.assertEqual(len({document.config.get(key) for document in documents}), len(documents), key)
-            self.assertEqual(set(found[arch]), set(promised))
+        for document in sorted(shipped_documents(), key=lambda document: document.config.get("Priority")):
+            language = (document.arch, document.config.get("Language"))
+            found.setdefault(language, []).append(document)
+        promised = {(arch, language): names for arch in PROMISED for language, names in PROMISED[arch].items()}
+        self.assertEqual(set(found), set(promised))
+        for language, documents in found.items():
+            with self.subTest(language=language):
+                natives = [document for document in documents if not document.cross]
+                self.assertEqual(" ".join(d.config.get("ShortName") for d in natives), promised[language])
+                # Those of another system come behind.
+                self.assertEqual(documents[: len(natives)], natives)
+                for key in ("Name", "ShortName", "Priority"):
+                    self.assertEqual(len({document.config.get(key) for document in documents}), len(documents), key)
 
     @for_each_document
     def test_an_attribute_is_one_line(self, document):
@@ -104,14 +94,6 @@ class Documents(unittest.TestCase):
         attributes = RAW_ATTRIBUTE.findall(COMMENT.sub("", document.text))
         self.assertGreater(len(attributes), 30)
         self.assertEqual([a for a in attributes if "\n" in a or "\r" in a], [])
-
-    @for_each_document
-    def test_details_name_variables_that_exist(self, document):
-        defined = {"$" + name for name in document.vars}
-        self.assertLessEqual({document.details[attribute] for attribute in NAMING}, defined)
-        private = {document.details[attribute] for attribute in NAMING[:3]}
-        self.assertEqual(len(private), 3)
-        self.assertFalse(private & {document.details["CompilerFlags"], document.details["LinkerFlags"]})
 
     @for_each_document
     def test_every_reference_is_defined_and_only_commands_name_one_source(self, document):
@@ -127,7 +109,7 @@ class Documents(unittest.TestCase):
         self.assertFalse(set(document.config.find("env").attrib) & set(document.vars))
 
     @for_each_document
-    def test_commands_come_in_order_and_flags_of_a_user_win(self, document):
+    def test_commands_bear_the_marks_by_which_the_driver_knows_them(self, document):
         (compile_,) = [text for text in document.commands if "$SRC" in text]
         (link,) = [text for text in document.commands if "$EXE" in text]
         self.assertIn("$DEF", document.commands[0])
@@ -135,34 +117,24 @@ class Documents(unittest.TestCase):
         switch, object_, product = ("-c", "-o ", "-o ") if document.gnu else ("/c", "/Fo", "/out:")
         self.assertRegex(compile_, rf"^\$COMPILER {switch} .* \$SRC {object_}\$OBJ$")
         self.assertRegex(link, rf"^\$LINKER {product}\$EXE .*\$OBJS.* \$USERLIBS")
-        self.assertNotRegex(compile_ + link, r"[;|#<>&^]")
-        self.assertNotRegex("\n".join(document.commands), r"\b(rm|del) ")
+        # Flags of a user win.
         self.assertLess(compile_.index("$OPTIM"), compile_.index(document.details["CompilerFlags"]))
 
     @for_each_document
-    def test_products_have_the_extensions_of_their_system(self, document):
-        product, library, program = {
-            "glnxa64": (".zexa64", ".so", ""),
-            "maci64": (".zexmaci64", ".dylib", ""),
-            "win32": (".zexw32", ".dll", ".exe"),
-            "win64": (".zexw64", ".dll", ".exe"),
-        }[document.arch]
-        self.assertEqual(document.vars["LDEXT"], product)
-        clients = {client.tag: client.get("LDEXT") for client in document.config.iterfind("client/*")}
-        expected = {"ENGINE": program, "ZBUILD": library, "ZBUILD_COM": library}
-        self.assertIn(clients, (expected, {}))
-        self.assertTrue(clients or document.cross or document.config.get("Language") not in ("C", "C++"))
+    def test_plain_libraries_have_the_extension_of_their_system(self, document):
+        library = {"glnxa64": ".so", "maci64": ".dylib"}.get(document.arch, ".dll")
+        clients = document.config.iterfind("client/*")
+        self.assertLessEqual({client.get("LDEXT") for client in clients if client.tag != "ENGINE"}, {library})
 
     @for_each_document
     def test_shell_functions_read_response_files(self, document):
         """A compiler that cannot take such a file as it is gets what the shell makes of its text."""
         compiler = document.vars["COMPILER"]
-        if not document.cross:
-            expected = document.posix and document.config.get("Name") in ("gfortran", "nvcc")
-            self.assertEqual("()" in compiler, expected)
         if "()" not in compiler:
+            self.assertFalse(document.posix and document.config.get("Name") in ("gfortran", "nvcc"))
             return
         arguments = """-c -DT='"x y"' -J"$(dirname "/tmp/p q/o.o")" "/tmp/p (q) & r/ä.f90" -o /tmp/o.o"""
+        words = ["-c", '-DT="x y"', "-J/tmp/p q", "/tmp/p (q) & r/ä.f90", "-o", "/tmp/o.o"]
         with tempfile.TemporaryDirectory() as folder:
             tool = pathlib.Path(folder, "to ol")
             tool.write_text('#!/bin/sh\nprintf "[%s]" "$@"\n')
@@ -171,13 +143,9 @@ class Documents(unittest.TestCase):
             file.write_text(" " + arguments)
             compiler = compiler.replace("$TESSELROOT", "/opt/t (x) & y").replace("$ARCH", document.arch)
             compiler = REFERENCE.sub(str(tool), compiler)
-            direct, through_file = (
-                subprocess.run(["sh", "-c", line], stdout=subprocess.PIPE, check=True, text=True).stdout
-                for line in (f"{compiler} {arguments}", f"{compiler} @{file}")
-            )
-        self.assertEqual(direct, through_file)
-        words = ["-c", '-DT="x y"', "-J/tmp/p q", "/tmp/p (q) & r/ä.f90", "-o", "/tmp/o.o"]
-        self.assertTrue(direct.endswith("".join(f"[{word}]" for word in words)), direct)
+            for line in (f"{compiler} {arguments}", f"{compiler} @{file}"):
+                told = subprocess.run(["sh", "-c", line], stdout=subprocess.PIPE, check=True, text=True).stdout
+                self.assertTrue(told.endswith("".join(f"[{word}]" for word in words)), told)
 
     @for_each_document
     def test_finders_try_cheap_tests_first_and_name_a_remedy(self, document):
@@ -194,15 +162,15 @@ class Documents(unittest.TestCase):
 
 @unittest.skipUnless(shutil.which("xmllint"), "xmllint is not installed")
 class Schema(unittest.TestCase):
-    def validates(self, path):
-        command = ["xmllint", "--noout", "--nonet", "--schema", str(ZEXOPTS / "zexopts.xsd"), str(path)]
-        result = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+    def validates(self, text):
+        command = ["xmllint", "--noout", "--nonet", "--schema", str(ZEXOPTS / "zexopts.xsd"), "-"]
+        result = subprocess.run(command, input=text, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, encoding="utf-8")
         self.assertIn(result.returncode, (0, 3), result.stdout)  # 3 is invalid; others are failures of the check
         return result.returncode == 0
 
     @for_each_document
     def test_every_document_is_valid(self, document):
-        self.assertTrue(self.validates(document.path))
+        self.assertTrue(self.validates(document.text))
 
     def test_common_slips_are_not(self):
         text = (ZEXOPTS / "gcc.xml").read_text(encoding="utf-8")
@@ -214,11 +182,9 @@ class Schema(unittest.TestCase):
             ("<fileExists name=", "<fileExists path="),
         )
         for old, new in slips:
-            with self.subTest(slip=new), tempfile.NamedTemporaryFile("w", encoding="utf-8") as file:
+            with self.subTest(slip=new):
                 self.assertIn(old, text)
-                file.write(text.replace(old, new))
-                file.flush()
-                self.assertFalse(self.validates(file.name))
+                self.assertFalse(self.validates(text.replace(old, new)))
 
 
 if __name__ == "__main__":

@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "host/Services.hpp"
@@ -47,17 +46,14 @@ class RecordingServices : public host::Services {
   host::Services* previous_;
 };
 
+std::string renderedFailure(const foundation::core::except::IMsgIDException& failure);
+
 /// What an action throws, rendered in the pseudo-locale, as in `TESSEL:zex:UnknownSwitch("-x")`; "no error" where
 /// it throws nothing. An exception without an identifier gives its text.
 template <class Action>
-std::string failureOf(Action&& action);
-
-std::string renderedFailure(const foundation::core::except::IMsgIDException& failure);
-
-template <class Action>
-std::string failureOf(Action&& action) {
+std::string failureOf(const Action& action) {
   try {
-    std::forward<Action>(action)();
+    action();
   } catch (const foundation::core::except::IMsgIDException& failure) {
     return renderedFailure(failure);
   } catch (const std::exception& failure) {

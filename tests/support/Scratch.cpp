@@ -16,17 +16,10 @@ namespace fs = std::filesystem;
 namespace {
 
 fs::path freshFolder() {
-  std::random_device random;
-  for (;;) {
-    const std::string number = std::to_string(100'000 + random() % 900'000);
-    const fs::path folder = fs::canonical(fs::temp_directory_path()) / utf16("zex test é " + number);
-    if (fs::create_directory(folder)) return folder;
-  }
-}
-
-std::optional<std::string> textOrNone(const char* text) {
-  if (text == nullptr) return std::nullopt;
-  return text;
+  const fs::path temporary = fs::canonical(fs::temp_directory_path());
+  const std::string number = std::to_string(100'000 + std::random_device()() % 900'000);
+  const fs::path folder = temporary / utf16("zex test é " + number);
+  return fs::create_directory(folder) ? folder : freshFolder();
 }
 
 }  // namespace
@@ -72,19 +65,16 @@ std::vector<std::string> Scratch::names(const std::string& below) const {
   return result;
 }
 
-ScopedVariable::ScopedVariable(std::string name, const std::optional<std::string>& value)
+ScopedVariable::ScopedVariable(std::string name, const char* value)
     : name_(std::move(name)), former_(variable(name_)) {
   setVariable(name_, value);
 }
 
-ScopedVariable::ScopedVariable(std::string name, const char* value)
-    : ScopedVariable(std::move(name), textOrNone(value)) {}
-
 ScopedVariable::ScopedVariable(std::string name, const fs::path& value)
-    : ScopedVariable(std::move(name), std::optional(utf8(value.u16string()))) {}
+    : ScopedVariable(std::move(name), utf8(value.u16string()).c_str()) {}
 
 ScopedVariable::~ScopedVariable() {
-  setVariable(name_, former_);
+  setVariable(name_, former_ ? former_->c_str() : nullptr);
 }
 
 }  // namespace zex_test

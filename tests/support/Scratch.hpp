@@ -42,8 +42,6 @@ class ScopedVariable {
   ScopedVariable& operator=(const ScopedVariable&) = delete;
 
  private:
-  ScopedVariable(std::string name, const std::optional<std::string>& value);
-
   std::string name_;
   std::optional<std::string> former_;
 };

@@ -1,8 +1,11 @@
 // The stand-in tool; support/FakeTool.hpp tells what it does.
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iomanip>
 #include <iostream>
 #include <iterator>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -22,10 +25,6 @@ std::string contentOf(const std::string& name) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-bool holds(const std::string& text, const char* word) {
-  return text.find(word) != std::string::npos;
-}
-
 void keepLog(const Words& words) {
   std::ofstream log("tool.log", std::ios::binary | std::ios::app);
   for (const std::string& word : words) log << (&word == &words.front() ? "" : " ") << word;
@@ -34,41 +33,26 @@ void keepLog(const Words& words) {
 
 /// Parts of a response file: between blanks, with double quotes around what holds some.
 Words partsOf(const std::string& text) {
-  Words parts(1);
-  bool quoted = false;
-  for (const char unit : text) {
-    if (unit == '"') {
-      quoted = !quoted;
-    } else if (unit == ' ' && !quoted) {
-      parts.emplace_back();
-    } else {
-      parts.back() += unit;
-    }
-  }
-  std::erase(parts, "");
+  std::istringstream stream(text);
+  Words parts;
+  for (std::string part; stream >> std::quoted(part, '"', '\0');) parts.push_back(part);
   return parts;
 }
 
 std::string behind(const Words& words, const char* mark) {
-  for (std::size_t index = 1; index < words.size(); ++index) {
-    if (words[index - 1] == mark) return words[index];
-  }
-  return {};
+  const auto found = std::find(words.begin(), words.end(), mark);
+  return found == words.end() || found + 1 == words.end() ? std::string() : found[1];
 }
 
 int compileOrLink(const Words& words) {
   const std::string source = contentOf(behind(words, "-c"));
-  if (holds(source, "SILENT")) return 3;
-  if (holds(source, "FAIL")) {
-    std::cout << "out\n";
-    std::cerr << "bad source\n";
-    return 1;
+  const bool warns = source.find("WARN") != std::string::npos, fails = source.find("FAIL") != std::string::npos;
+  if (source.find("SILENT") != std::string::npos) return 3;
+  if (warns || fails) {
+    std::cerr << (fails ? "bad source\n" : "careful\n");
+    std::cout << (fails ? "out\n" : "detail\n");
   }
-  if (holds(source, "WARN")) {
-    std::cerr << "careful\n";
-    std::cout << "detail\n";
-  }
-  return std::ofstream(named(behind(words, "-o"))) << "made\n" ? 0 : 2;
+  return !fails && std::ofstream(named(behind(words, "-o"))) << "made\n" ? 0 : 1;
 }
 
 int headersInWrongOrder(const Words& words) {

@@ -29,7 +29,7 @@ std::string fromNative(std::string_view bytes);
 
 std::optional<std::string> variable(const std::string& name);
 
-/// Nothing unsets it.
-void setVariable(const std::string& name, const std::optional<std::string>& value);
+/// Null unsets it.
+void setVariable(const std::string& name, const char* value);
 
 }  // namespace zex_test

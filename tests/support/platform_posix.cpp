@@ -22,30 +22,13 @@ const Platform platform = {
     .refusesShellSigns = true,
 };
 
-std::string told(std::string text) {
-  return text;
-}
-
-std::string toldMessage(std::string text) {
-  return text;
-}
-
-std::string fromNative(std::string_view bytes) {
-  return std::string(bytes);
-}
-
 std::optional<std::string> variable(const std::string& name) {
   const char* const value = std::getenv(name.c_str());
-  if (value == nullptr) return std::nullopt;
-  return value;
+  return value == nullptr ? std::nullopt : std::optional<std::string>(value);
 }
 
-void setVariable(const std::string& name, const std::optional<std::string>& value) {
-  if (value) {
-    setenv(name.c_str(), value->c_str(), 1);
-  } else {
-    unsetenv(name.c_str());
-  }
+void setVariable(const std::string& name, const char* value) {
+  static_cast<void>(value == nullptr ? unsetenv(name.c_str()) : setenv(name.c_str(), value, 1));
 }
 
 }  // namespace zex_test
