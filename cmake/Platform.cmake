@@ -27,16 +27,26 @@ else()
   set(ZEX_BESIDE_ITSELF "$ORIGIN")
 endif()
 
-# Builds a library straight into the tree, found there by what lies beside it. Import libraries of DLLs go to the build
-# folder.
+# Builds a library straight into the tree, found there by what lies beside it. Its name carries the version that programs
+# and extensions stay with; what links it goes by the plain name. Import libraries of DLLs go to the build folder.
 function(zex_library_in_tree target)
   set_target_properties(
     ${target}
-    PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${ZEX_TREE_BIN}
+    PROPERTIES SOVERSION ${PROJECT_VERSION_MAJOR}
+               LIBRARY_OUTPUT_DIRECTORY ${ZEX_TREE_BIN}
                RUNTIME_OUTPUT_DIRECTORY ${ZEX_TREE_BIN}
                ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib
                BUILD_RPATH_USE_ORIGIN ON
                INSTALL_RPATH "${ZEX_BESIDE_ITSELF}")
+endfunction()
+
+# Lets a library show what a version script names and nothing else: templates of the C++ library would come out
+# otherwise.
+function(zex_show_only target script)
+  if(UNIX AND NOT APPLE)
+    set_target_properties(${target} PROPERTIES LINK_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${script})
+    target_link_options(${target} PRIVATE -Wl,--version-script=${CMAKE_CURRENT_SOURCE_DIR}/${script})
+  endif()
 endfunction()
 
 # Drops from a list of sources, those of tests among them, what ends in the suffix of another platform.

@@ -89,7 +89,7 @@ TEST_F(Sdk, AProductNeedsTheRuntimeOnlyIfItCallsIt) {
   write("calls.c", extension("zexPrintf(\"x\");"));
   build("-silent calls.c", {"calls.zexa64"});
   build("-silent value.c", {"value.zexa64"});
-  EXPECT_THAT(shell("readelf -d calls.zexa64").out, HasSubstr("[libzx.so]"));
+  EXPECT_THAT(shell("readelf -d calls.zexa64").out, HasSubstr("[libzx.so.1]"));
   EXPECT_THAT(shell("readelf -d value.zexa64").out, testing::Not(HasSubstr("libzx")));
 }
 

@@ -22,6 +22,11 @@ step(${WORK}/build/embedder)
 if(NOT EXISTS ${WORK}/embedded.zexa64)
   message(FATAL_ERROR "the embedder's build left no product")
 endif()
+# What was linked asks for the version, and never for the name that the next version takes over.
+execute_process(COMMAND readelf -d ${WORK}/build/embedder OUTPUT_VARIABLE needed COMMAND_ERROR_IS_FATAL ANY)
+if(NOT needed MATCHES "\\[libzexcmd\\.so\\.1\\]")
+  message(FATAL_ERROR "the embedder does not ask for libzexcmd.so.1:\n${needed}")
+endif()
 # The installed tree stands by itself, wherever it was moved.
 file(RENAME ${WORK}/prefix ${WORK}/moved)
 file(REMOVE ${WORK}/embedded.zexa64)
