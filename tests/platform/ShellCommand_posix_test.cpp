@@ -28,9 +28,7 @@ TEST_F(ShellCommand, TakesBothStreamsLineByLineAndTheStatus) {
   EXPECT_EQ(errors, u"bad\n");
   EXPECT_THAT(host.shellFlags, ElementsAre(true));
   EXPECT_THAT(scratch.names(), ElementsAre());
-}
-
-TEST_F(ShellCommand, ShellsOwnWordsLoseScriptAndLine) {
+  // The shell's own words lose the script and its line.
   EXPECT_EQ(runShellCommand(u"no_such_tool_of_zex", output, errors, false), 127);
   EXPECT_THAT(zex_test::utf8(errors), testing::MatchesRegex(" no_such_tool_of_zex: .*not found\n"));
 }
