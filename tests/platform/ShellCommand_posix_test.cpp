@@ -1,9 +1,7 @@
 #include <gmock/gmock.h>
-#include <sys/resource.h>
-
-#include <csignal>
 
 #include "platform/ShellCommand.hpp"
+#include "platform/full_disk_posix.hpp"
 #include "support/RecordingServices.hpp"
 #include "support/Scratch.hpp"
 #include "support/texts.hpp"
@@ -34,16 +32,8 @@ TEST_F(ShellCommand, TakesBothStreamsLineByLineAndTheStatus) {
 }
 
 TEST_F(ShellCommand, HalfAScriptIsNotRun) {
-  rlimit former{};
-  getrlimit(RLIMIT_FSIZE, &former);
-  const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit tight{100, former.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &tight);
-  const auto status = runShellCommand(u"echo " + ustring(500, u'x'), output, errors, false);
-  setrlimit(RLIMIT_FSIZE, &former);
-  std::signal(SIGXFSZ, formerHandler);
-
-  EXPECT_EQ(status, EFBIG);
+  const ustring text = u"echo " + ustring(500, u'x');
+  EXPECT_EQ(zex_test::onFullDisk([&] { return runShellCommand(text, output, errors, false); }), EFBIG);
   EXPECT_EQ(output + errors, u"");
   EXPECT_THAT(host.shellLines, ElementsAre());
   EXPECT_THAT(scratch.names(), ElementsAre());
