@@ -1,30 +1,21 @@
 #include "build/CommandClassifier.hpp"
 
-#include <gtest/gtest.h>
-
-#include <boost/make_shared.hpp>
-#include <string>
-
+#include "build/BuildTest.hpp"
 #include "build/response_file.hpp"
-#include "options/ZexOpt.hpp"
-#include "support/InstalledTree.hpp"
-#include "support/texts.hpp"
 
 namespace zex_cmd {
 namespace {
 
-using zex_test::Document;
-using zex_test::InstalledTree;
+class CommandClassifierTest : public BuildTest {
+ protected:
+  boost::shared_ptr<ZexOpt> documentOf(const std::string& manufacturer) {
+    document.manufacturer = manufacturer;
+    document.vars = "OBJ=\"a.o;&quot;b b.o&quot;;a.obj\" EXE=\"&quot;out put.x&quot;\"";
+    return loaded();
+  }
+};
 
-boost::shared_ptr<ZexOpt> documentOf(const InstalledTree& tree, const std::string& manufacturer) {
-  Document document;
-  document.manufacturer = manufacturer;
-  document.vars = "OBJ=\"a.o;&quot;b b.o&quot;;a.obj\" EXE=\"&quot;out put.x&quot;\"";
-  tree.scratch.write("d.xml", document.xml());
-  return boost::make_shared<ZexOpt>(tree.scratch.path("d.xml"), "", u"", false);
-}
-
-TEST(CommandClassifier, KnowsCommandsByTheMakersMarks) {
+TEST_F(CommandClassifierTest, KnowsCommandsByTheMakersMarks) {
   constexpr auto compile = ZexCommandKind::Compile;
   constexpr auto link = ZexCommandKind::Link;
   constexpr auto other = ZexCommandKind::Other;
@@ -52,36 +43,32 @@ TEST(CommandClassifier, KnowsCommandsByTheMakersMarks) {
       {"Other", u"link /out:\"out put.x\"", link, u"out put.x"},
       {"Other", u"gcc -c a.o -o x", other, u""},
   };
-  const InstalledTree tree;
   for (const Case& row : cases) {
-    const auto option = documentOf(tree, row.manufacturer);
-    const CommandClass found = CommandClassifier(*option).classifyCommand(row.text);
-    EXPECT_EQ(found.kind, row.kind) << row.manufacturer << ": " << zex_test::utf8(row.text);
-    EXPECT_EQ(found.output, row.output) << row.manufacturer << ": " << zex_test::utf8(row.text);
+    SCOPED_TRACE(row.manufacturer + (": " + zex_test::utf8(row.text)));
+    const CommandClass found = CommandClassifier(*documentOf(row.manufacturer)).classifyCommand(row.text);
+    EXPECT_EQ(found.kind, row.kind);
+    EXPECT_EQ(found.output, row.output);
   }
 }
 
-TEST(ResponseFile, ServesCompilesAndLinksFromEightThousandCharacters) {
-  const InstalledTree tree;
+TEST_F(CommandClassifierTest, ResponseFilesServeCompilesAndLinksFromEightThousandCharacters) {
   ZexBuildCommand record;
-  record.option = documentOf(tree, "GNU");
-  record.command = u"tool" + ustring(7995, u'x');
-  record.kind = ZexCommandKind::Compile;
-  EXPECT_EQ(record.command.size(), 7999U);
-  EXPECT_FALSE(needsResponseFile(record));
-  record.command += u"\\";
-  EXPECT_TRUE(needsResponseFile(record));
-  record.kind = ZexCommandKind::Other;
-  EXPECT_FALSE(needsResponseFile(record));
+  for (const auto kind : {ZexCommandKind::Compile, ZexCommandKind::Link, ZexCommandKind::Other}) {
+    record.kind = kind;
+    record.command = ustring(7999, u'x');
+    EXPECT_FALSE(needsResponseFile(record));
+    record.command += u'x';
+    EXPECT_EQ(needsResponseFile(record), kind != ZexCommandKind::Other);
+  }
 
   record.kind = ZexCommandKind::Link;
-  const ustring folder = tree.scratch.path("tmp");
-  EXPECT_EQ(responseFileCommand(record, folder).command, u"tool @" + tree.scratch.path("tmp/zex_temp.rsp"));
-  EXPECT_EQ(tree.scratch.read("tmp/zex_temp.rsp"), std::string(7995, 'x') + "/");  // a backslash becomes "/"
-
-  record.option = documentOf(tree, "Other");
-  EXPECT_EQ(responseFileCommand(record, folder).command, u"tool @" + tree.scratch.path("tmp/zex_temp.rsp"));
-  EXPECT_EQ(tree.scratch.read("tmp/zex_temp.rsp"), std::string(7995, 'x') + "\\");
+  record.command = u"tool a\\b";
+  for (const auto& [manufacturer, content] : {std::pair("GNU", " a/b"), {"Other", " a\\b"}}) {
+    record.option = documentOf(manufacturer);
+    const ustring command = responseFileCommand(record, tree.scratch.path("tmp")).command;
+    EXPECT_EQ(command, u"tool @" + tree.scratch.path("tmp/zex_temp.rsp"));
+    EXPECT_EQ(tree.scratch.read("tmp/zex_temp.rsp"), content);
+  }
 }
 
 }  // namespace

@@ -26,10 +26,6 @@ std::shared_ptr<const HostValue> noText() {
 
 class AdaRoute : public testing::Test {
  protected:
-  std::string run() {
-    return zex_test::failureOf([] { runAdaRoute({u"-ada"}); });
-  }
-
   zex_test::RecordingServices host;
 };
 
@@ -56,26 +52,21 @@ TEST_F(AdaRoute, RethrowsTheHostsErrorUnchanged) {
   EXPECT_EQ(host.calls, expected);
 }
 
-TEST_F(AdaRoute, AFailureThatLacksATextIsDropped) {
-  const HostValue::Fields cases[] = {{},
-                                     {{"identifier", characters(u"a:b")}},
-                                     {{"message", characters(u"")}, {"identifier", characters(u"a:b")}},
-                                     {{"message", characters(u"m")}, {"identifier", scalar(u"")}}};
-  for (const HostValue::Fields& fields : cases) {
-    host.failure = fields;
-    EXPECT_EQ(run(), "no error");
-  }
-}
-
-TEST_F(AdaRoute, FieldsThatAreNoTextFailWithoutTellingTheHost) {
+TEST_F(AdaRoute, AFailureNeedsTwoTextsAndWhatIsNoneFailsWithoutTellingTheHost) {
   const std::string notText = "TESSEL:string:MustBeStringScalarOrCharacterVector";
-  const std::string missing = "TESSEL:string:MissingNotSupported";
-  host.failure = {{"message", noText()}, {"identifier", characters(u"a:b")}};
-  EXPECT_EQ(run(), notText);
-  host.failure = {{"message", scalar(std::nullopt)}};
-  EXPECT_EQ(run(), missing);
-  host.failure = {{"message", characters(u"")}, {"identifier", noText()}};
-  EXPECT_EQ(run(), notText) << "an empty message does not spare the identifier";
+  const std::pair<HostValue::Fields, std::string> cases[] = {
+      {{}, "no error"},
+      {{{"identifier", characters(u"a:b")}}, "no error"},
+      {{{"message", characters(u"m")}, {"identifier", scalar(u"")}}, "no error"},
+      {{{"message", noText()}, {"identifier", characters(u"a:b")}}, notText},
+      {{{"message", scalar(std::nullopt)}}, "TESSEL:string:MissingNotSupported"},
+      // An empty message does not spare the identifier.
+      {{{"message", characters(u"")}, {"identifier", noText()}}, notText},
+  };
+  for (const auto& [fields, expected] : cases) {
+    host.failure = fields;
+    EXPECT_EQ(zex_test::failureOf([] { runAdaRoute({u"-ada"}); }), expected);
+  }
   EXPECT_TRUE(host.errors.empty());
 }
 

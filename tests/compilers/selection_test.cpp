@@ -1,49 +1,27 @@
-#include <gtest/gtest.h>
-
-#include <boost/make_shared.hpp>
-
-#include "args/ZexArgs.hpp"
-#include "cmd/messages/ZexConfigPerTVM.hpp"
-#include "compilers/ZexCompilers.hpp"
+#include "compilers/CompilersTest.hpp"
 #include "compilers/ZexSelectedOptsPerTVM.hpp"
-#include "options/ZexOpt.hpp"
-#include "support/InstalledTree.hpp"
-#include "support/texts.hpp"
 
 namespace zex_cmd {
 namespace {
 
-using zex_test::catalogue;
-using zex_test::Document;
-using zex_test::failureOf;
-using zex_test::InstalledTree;
-using zex_test::selection;
-using zex_test::selectionBackup;
+using testing::ElementsAre;
+using testing::HasSubstr;
 
-class Selection : public testing::Test {
+class Selection : public CompilersTest {
  protected:
   Selection() { args->languages = {"C"}; }
 
-  static Document compiler(const std::string& name, const std::string& priority, bool installed = true) {
-    Document document;
-    document.name = name;
-    document.shortName = "short " + name;
-    document.priority = priority;
-    document.installed = installed;
-    return document;
-  }
-
   /// Name of the selected compiler for one command, or the failure.
   std::string selected() {
-    ZexCompilers compilers(&args);
     std::string name;
-    const std::string failure =
-        failureOf([&] { name = zex_test::utf8(compilers.getSelectedOpt()->attribute(u"NAME")); });
+    const std::string failure = failureOf([&] { name = nameOf(*ZexCompilers(&args).getSelectedOpt()); });
     return failure == "no error" ? name : failure;
   }
 
-  InstalledTree tree;
-  boost::shared_ptr<ZexArgs> args = boost::make_shared<ZexArgs>();
+  boost::shared_ptr<ZexOpt> written(const Document& document, const std::string& file = "prefs/" + selection) {
+    tree.scratch.write(file, document.xml());
+    return boost::make_shared<ZexOpt>(tree.scratch.path(file), "", u"", false);
+  }
 };
 
 TEST_F(Selection, ImplicitChoiceFollowsThePriorityText) {
@@ -64,8 +42,7 @@ TEST_F(Selection, ImplicitChoiceFollowsThePriorityText) {
   };
   for (const Case& row : cases) {
     const InstalledTree fresh;
-    int index = 0;
-    for (const Document& document : row.catalogue) fresh.offer(std::to_string(index++) + ".xml", document);
+    offer(fresh, row.catalogue);
     EXPECT_EQ(selected(), row.expected) << row.what;
     // Only what could be chosen is remembered.
     EXPECT_EQ(ZexSelectedOptsPerTVM::current().implicitSelections.empty(), row.catalogue.empty()) << row.what;
@@ -73,12 +50,12 @@ TEST_F(Selection, ImplicitChoiceFollowsThePriorityText) {
 }
 
 TEST_F(Selection, SelectedFileWinsEvenIfItsCompilerIsGone) {
-  tree.offer("a.xml", compiler("listed", "A"));
+  offer(tree, {compiler("listed", "A")});
   tree.scratch.write("prefs/" + selection, compiler("chosen", "Z").xml());
   EXPECT_EQ(selected(), "chosen");
   tree.scratch.write("prefs/" + selection, compiler("chosen", "Z", false).xml());
   EXPECT_EQ(selected(), "TESSEL:zex:NoCompilerFound_Win64");
-  EXPECT_EQ(tree.host.warnings, std::vector<std::string>{"TESSEL:zex:Warn(\"Install chosen.\\n\")"});
+  EXPECT_THAT(tree.host.warnings, ElementsAre("TESSEL:zex:Warn(\"Install chosen.\\n\")"));
 }
 
 TEST_F(Selection, NoCompilerErrorDependsOnLanguagesAndLinks) {
@@ -94,91 +71,65 @@ TEST_F(Selection, ASecondCommandRemembersTheImplicitChoice) {
   ZexConfigPerTVM::current().verboseEnabled = ZexConfigPerTVM::current().verboseEcho = true;
   tree.offer("b.xml", compiler("first", "B"));
   EXPECT_EQ(selected(), "first");
-  EXPECT_NE(tree.host.output.find("TESSEL:zex:LookforImplicitSel\n"), std::string::npos);
+  EXPECT_THAT(tree.host.output, HasSubstr("TESSEL:zex:LookforImplicitSel\n"));
   tree.host.output.clear();
   tree.offer("a.xml", compiler("better", "A"));
   EXPECT_EQ(selected(), "first");
-  EXPECT_EQ(tree.host.output.find("LookforImplicitSel"), std::string::npos);
+  EXPECT_THAT(tree.host.output, testing::Not(HasSubstr("LookforImplicitSel")));
 }
 
 TEST_F(Selection, SeveralInstalledWithoutOneSelectedFail) {
+  offer(tree, {compiler("1", "A"), compiler("2", "B")});
   ZexCompilers compilers(&args);
-  tree.offer("a.xml", compiler("1", "A"));
-  tree.offer("b.xml", compiler("2", "B"));
   ZexOptList list = compilers.findCatalogueOpts("C", u"", true);
   EXPECT_EQ(failureOf([&] { compilers.checkOptList(list, true); }), "TESSEL:zex:MultipleOrZeroCompiler");
-}
-
-TEST_F(Selection, MergingPutsTheSelectedDocumentInThePlaceOfItsTwin) {
-  tree.offer("a.xml", compiler("1", "A"));
-  tree.offer("b.xml", compiler("2", "B"));
-  tree.scratch.write("prefs/" + selection, compiler("2", "B").xml());
-  for (const char* kind : {"", "installed"}) {
-    ZexCompilers compilers(&args);
-    const ZexOptList listed = compilers.findCatalogueOpts("C", u"", true);
-    const ZexOptList chosen = compilers.findSelectedOpts("C", u"");
-    const ZexOptList merged = compilers.mergeOptLists(listed, chosen, kind);
-    const bool query = *kind != '\0';
-    EXPECT_EQ(merged, query ? listed : (ZexOptList{listed[0], chosen[0]}));
-    // Of the pair only one stays in the cache, which a compiler query reads.
-    EXPECT_EQ(compilers.cachedOpts().count(tree.scratch.path(catalogue + "b.xml")), query ? 1U : 0U);
-    EXPECT_EQ(compilers.cachedOpts().count(tree.scratch.path("prefs/" + selection)), query ? 0U : 1U);
-    EXPECT_FALSE(listed[0]->selected) << "the priority rule must rest";
-  }
 }
 
 TEST_F(Selection, MergingMindsOnlyWhatIsInstalled) {
   struct Case {
     const char* what;
-    Document listed;
-    Document chosen;
-    const char* kind;
-    const char* names;  ///< of the merged list, "*" before a selected one
-    std::size_t cached;
+    Document listed, chosen;
+    const char *kind, *names;
+    const char* cached;  ///< "prefs" and "root", where what a compiler query reads comes from
   };
   const Case cases[] = {
-      {"no twin", compiler("1", "A"), compiler("2", "B"), "", "1 *2 ", 2},
-      {"selected one is gone", compiler("1", "A"), compiler("1", "A", false), "", "*1 ", 2},
-      {"query, listed twin is gone", compiler("1", "A", false), compiler("1", "A"), "installed", "1 ", 2},
+      {"no twin", compiler("1", "A"), compiler("2", "B"), "", "1 *2 ", "prefs root "},
+      {"twin", compiler("1", "A"), compiler("1", "A"), "", "*1 ", "prefs "},
+      {"query, twin", compiler("1", "A"), compiler("1", "A"), "installed", "1 ", "root "},
+      {"selected one is gone", compiler("1", "A"), compiler("1", "A", false), "", "*1 ", "prefs root "},
+      {"query, listed twin is gone", compiler("1", "A", false), compiler("1", "A"), "installed", "1 ",
+       "prefs root "},
   };
   for (const Case& row : cases) {
     const InstalledTree fresh;
-    fresh.offer("a.xml", row.listed);
+    offer(fresh, {row.listed});
     fresh.scratch.write("prefs/" + selection, row.chosen.xml());
     ZexCompilers compilers(&args);
     const ZexOptList listed = compilers.findCatalogueOpts("C", u"", true);
-    std::string names;
-    for (const auto& opt : compilers.mergeOptLists(listed, compilers.findSelectedOpts("C", u""), row.kind)) {
-      names += (opt->selected ? "*" : "") + zex_test::utf8(opt->attribute(u"NAME")) + " ";
-    }
-    EXPECT_EQ(names, row.names) << row.what;
-    EXPECT_EQ(compilers.cachedOpts().size(), row.cached) << row.what;
+    EXPECT_EQ(namesOf(compilers.mergeOptLists(listed, compilers.findSelectedOpts("C", u""), row.kind)), row.names)
+        << row.what;
+    std::string cached;
+    for (const auto& [path, opt] : compilers.cachedOpts())
+      cached += path.starts_with(fresh.scratch.path("prefs")) ? "prefs " : "root ";
+    EXPECT_EQ(cached, row.cached) << row.what;
   }
 }
 
-class Upgrade : public Selection {
- protected:
-  boost::shared_ptr<ZexOpt> old(const Document& document, const std::string& file = "prefs/" + selection) {
-    tree.scratch.write(file, document.xml());
-    return boost::make_shared<ZexOpt>(tree.scratch.path(file), "", u"", false);
-  }
-};
-
-TEST_F(Upgrade, IsDueForAnOlderFileOfThePreferencesOnly) {
+TEST_F(Selection, AnUpgradeIsDueForAnOlderFileOfThePreferencesOnly) {
   const ZexCompilers compilers(&args);
   Document document = compiler("1", "A");
-  const auto here = old(document, selection);
+  const auto here = written(document, selection);
   EXPECT_FALSE(compilers.needsUpgrade(*here)) << "no twin in the preferences folder";
-  EXPECT_TRUE(compilers.needsUpgrade(*old(document)));
+  EXPECT_TRUE(compilers.needsUpgrade(*written(document)));
   EXPECT_TRUE(compilers.needsUpgrade(*here)) << "treated as its twin";
   document.release = "R2018a";
-  EXPECT_FALSE(compilers.needsUpgrade(*old(document)));
+  EXPECT_FALSE(compilers.needsUpgrade(*written(document)));
   document.release = "R2017a";
   args->optionsFile = u"given";
-  EXPECT_FALSE(compilers.needsUpgrade(*old(document)));
+  EXPECT_FALSE(compilers.needsUpgrade(*written(document)));
 }
 
-TEST_F(Upgrade, TakesTheTwinTheBestOrTheOldOne) {
+TEST_F(Selection, AnUpgradeTakesTheTwinTheBestOrTheOldOne) {
   struct Case {
     const char* shortName;
     std::vector<Document> catalogue;
@@ -186,25 +137,26 @@ TEST_F(Upgrade, TakesTheTwinTheBestOrTheOldOne) {
     std::vector<std::string> warnings;
   };
   const Case cases[] = {
-      {"short 2", {compiler("1", "A"), compiler("2", "B")}, "2", {}},
-      {"gone", {compiler("1", "B"), compiler("2", "A")}, "2", {"TESSEL:zex:UnsupportedCompiler(\"old\")"}},
+      {"short2", {compiler("1", "A"), compiler("2", "B")}, "2", {}},
+      {"gone",
+       {compiler("1", "B"), compiler("2", "A"), compiler("3", "C")},
+       "2",
+       {"TESSEL:zex:UnsupportedCompiler(\"old\")"}},
       {"gone", {compiler("1", "A", false)}, "old", {"TESSEL:zex:NoAlternativeCompilerFound(\"old\")"}},
       {"LCC64", {compiler("1", "A")}, "old", {}},
   };
   for (const Case& row : cases) {
-    InstalledTree fresh;
-    int index = 0;
-    for (const Document& document : row.catalogue) fresh.offer(std::to_string(index++) + ".xml", document);
+    const InstalledTree fresh;
+    offer(fresh, row.catalogue);
     Document document = compiler("old", "A");
     document.shortName = row.shortName;
     fresh.scratch.write("prefs/" + selection, document.xml());
-    const auto former = boost::make_shared<ZexOpt>(fresh.scratch.path("prefs/" + selection), "", u"", false);
-    former->selected = true;
+    const ustring path = fresh.scratch.path("prefs/" + selection);
     ZexCompilers compilers(&args);
-    const auto replacement = compilers.upgradeOpt(former);
-    EXPECT_EQ(replacement->attribute(u"NAME"), zex_test::utf16(row.replacement));
+    const auto replacement = compilers.upgradeOpt(boost::make_shared<ZexOpt>(path, "", u"", false));
+    EXPECT_EQ(nameOf(*replacement), row.replacement);
     EXPECT_TRUE(replacement->selected && replacement->currentRelease);
-    EXPECT_EQ(replacement->attribute(u"ZEXOPT"), fresh.scratch.path("prefs/" + selection));
+    EXPECT_EQ(replacement->attribute(u"ZEXOPT"), path);
     EXPECT_EQ(fresh.host.warnings, row.warnings);
     EXPECT_TRUE(fresh.scratch.has("prefs/" + selectionBackup));
   }

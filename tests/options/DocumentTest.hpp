@@ -11,12 +11,12 @@
 
 namespace zex_cmd {
 
-/// A scratch folder with a document in it, under a recording host.
+/// A scratch folder with a document in it, under a recording host whose commands call for it.
 class DocumentTest : public testing::Test {
  protected:
   ZexOpt load(const std::string& content, const std::string& language = {}, const ustring& name = {}) {
     scratch.write("doc.xml", content);
-    return ZexOpt(scratch.path("doc.xml"), language, name, false);
+    return ZexOpt(scratch.path("doc.xml"), language, name, true);
   }
   ZexOpt reload(const std::string& name) { return ZexOpt(scratch.path(name), "", u"", false); }
 

@@ -1,25 +1,8 @@
-#include <sys/resource.h>
-
-#include <csignal>
-
 #include "options/DocumentTest.hpp"
+#include "platform/full_disk_posix.hpp"
 
 namespace zex_cmd {
 namespace {
-
-/// What an action throws where no file can grow, as on a disk that is full.
-template <class Action>
-std::string failureOnFullDisk(Action&& action) {
-  rlimit former{};
-  getrlimit(RLIMIT_FSIZE, &former);
-  const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit tight{100, former.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &tight);
-  const std::string failure = zex_test::failureOf(action);
-  setrlimit(RLIMIT_FSIZE, &former);
-  std::signal(SIGXFSZ, formerHandler);
-  return failure;
-}
 
 using FullDisk = DocumentTest;
 
@@ -27,13 +10,14 @@ TEST_F(FullDisk, AFailedWriteIsReportedAndDoesNotStay) {
   const zex_test::ScopedVariable preferences("TESSEL_PREFDIR", nullptr);
   host.preferences = scratch.path("prefs");
   ZexOpt opt = load("<config Name='n'><vars OPT='-O'/></config>");
-  const std::string path = scratch.told("prefs/saved.xml");
+  const ustring path = scratch.path("prefs/saved.xml");
+  const auto failure = [&] { return zex_test::failureOf([&] { opt.writeSelected(path); }); };
   // A short text fails when the stream is flushed, a long one while it is written.
-  for (const char* identifier : {"XMLWriteFailed", "XMLWriteFailedWithMsg"}) {
+  for (const std::string identifier : {"XMLWriteFailed", "XMLWriteFailedWithMsg"}) {
     scratch.write("prefs/saved.xml", identifier);
-    EXPECT_THAT(failureOnFullDisk([&] { opt.writeSelected(scratch.path("prefs/saved.xml")); }),
-                testing::StartsWith(std::string("TESSEL:zex:") + identifier + "(\"" + path + "\""));
-    EXPECT_EQ(scratch.names("prefs"), std::vector<std::string>{"saved_backup.xml"});
+    EXPECT_THAT(zex_test::onFullDisk(failure),
+                testing::StartsWith("TESSEL:zex:" + identifier + "(\"" + scratch.told("prefs/saved.xml") + "\""));
+    EXPECT_THAT(scratch.names("prefs"), testing::ElementsAre("saved_backup.xml"));
     EXPECT_EQ(scratch.read("prefs/saved_backup.xml"), identifier);
     opt.setVariable(u"LONG", ustring(100'000, u'x'));
   }

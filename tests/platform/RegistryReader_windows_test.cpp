@@ -19,36 +19,30 @@ class RegistryReader : public testing::Test {
     RegDeleteTreeW(HKEY_CURRENT_USER, keyName);
   }
 
-  void put(const void* bytes, std::size_t size, DWORD type = REG_SZ) {
-    ASSERT_EQ(RegSetValueExW(key_, L"n ü", 0, type, static_cast<const BYTE*>(bytes), static_cast<DWORD>(size)),
-              ERROR_SUCCESS);
-  }
-
   HKEY key_ = nullptr;
-  const ustring name = u"n ü";
 };
 
-TEST_F(RegistryReader, ReadsWhatIsThereUnderItsRoot) {
-  const std::u16string text = u"C:\\Tools 漢\\%X%";
-  put(text.c_str(), text.size() * 2 + 2, REG_EXPAND_SZ);
-  EXPECT_EQ(readRegistry(RegistryRoot::CurrentUser, keyPath, name), text);
-  EXPECT_EQ(readRegistry(RegistryRoot::CurrentUser, u"SOFTWARE\\ZEX TEST É", u"N Ü"), text);
-  EXPECT_EQ(readRegistry(RegistryRoot::CurrentUser, keyPath, u"absent"), std::nullopt);
-  EXPECT_EQ(readRegistry(RegistryRoot::CurrentUser, keyPath + u"\\absent", name), std::nullopt);
-  EXPECT_EQ(readRegistry(RegistryRoot::LocalMachine, keyPath, name), std::nullopt);
-}
-
 TEST_F(RegistryReader, SizeCountsAndTypeDoesNot) {
-  const std::u16string text(0x201, u'x');
-  put(text.c_str(), 0x400);
-  EXPECT_EQ(readRegistry(RegistryRoot::CurrentUser, keyPath, name), text.substr(1)) << "without an end mark";
-  put(text.c_str() + 2, 0x400);
-  EXPECT_EQ(readRegistry(RegistryRoot::CurrentUser, keyPath, name), text.substr(2));
-  put(text.c_str() + 1, 0x402);
-  EXPECT_EQ(readRegistry(RegistryRoot::CurrentUser, keyPath, name), std::nullopt);
-  const DWORD number = 0x00420041;
-  put(&number, sizeof number, REG_DWORD);
-  EXPECT_EQ(readRegistry(RegistryRoot::CurrentUser, keyPath, name), u"AB");
+  const struct {
+    ustring units;
+    DWORD type;
+    std::optional<ustring> read;
+  } cases[] = {
+      {ustring(511, u'x') + u'\0', REG_SZ, ustring(511, u'x')},
+      {ustring(512, u'x'), REG_SZ, ustring(512, u'x')},  // without an end mark
+      {ustring(512, u'x') + u'\0', REG_SZ, std::nullopt},
+      {u"AB", REG_DWORD, u"AB"},
+      {ustring(u"C:\\Tools 漢\\%X%") + u'\0', REG_EXPAND_SZ, u"C:\\Tools 漢\\%X%"},
+  };
+  for (const auto& row : cases) {
+    const auto* const bytes = reinterpret_cast<const BYTE*>(row.units.data());
+    RegSetValueExW(key_, L"n ü", 0, row.type, bytes, static_cast<DWORD>(row.units.size() * 2));
+    EXPECT_EQ(readRegistry(RegistryRoot::CurrentUser, keyPath, u"n ü"), row.read) << row.units.size();
+  }
+  EXPECT_NE(readRegistry(RegistryRoot::CurrentUser, u"SOFTWARE\\ZEX TEST É", u"N Ü"), std::nullopt);
+  EXPECT_EQ(readRegistry(RegistryRoot::CurrentUser, keyPath, u"absent"), std::nullopt);
+  EXPECT_EQ(readRegistry(RegistryRoot::CurrentUser, keyPath + u"\\absent", u"n ü"), std::nullopt);
+  EXPECT_EQ(readRegistry(RegistryRoot::LocalMachine, keyPath, u"n ü"), std::nullopt);
 }
 
 }  // namespace

@@ -1,9 +1,7 @@
 #include <gmock/gmock.h>
-#include <sys/resource.h>
-
-#include <csignal>
 
 #include "platform/ShellCommand.hpp"
+#include "platform/full_disk_posix.hpp"
 #include "support/RecordingServices.hpp"
 #include "support/Scratch.hpp"
 #include "support/texts.hpp"
@@ -28,24 +26,14 @@ TEST_F(ShellCommand, TakesBothStreamsLineByLineAndTheStatus) {
   EXPECT_EQ(errors, u"bad\n");
   EXPECT_THAT(host.shellFlags, ElementsAre(true));
   EXPECT_THAT(scratch.names(), ElementsAre());
-}
-
-TEST_F(ShellCommand, ShellsOwnWordsLoseScriptAndLine) {
+  // The shell's own words lose the script and its line.
   EXPECT_EQ(runShellCommand(u"no_such_tool_of_zex", output, errors, false), 127);
   EXPECT_THAT(zex_test::utf8(errors), testing::MatchesRegex(" no_such_tool_of_zex: .*not found\n"));
 }
 
 TEST_F(ShellCommand, HalfAScriptIsNotRun) {
-  rlimit former{};
-  getrlimit(RLIMIT_FSIZE, &former);
-  const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit tight{100, former.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &tight);
-  const auto status = runShellCommand(u"echo " + ustring(500, u'x'), output, errors, false);
-  setrlimit(RLIMIT_FSIZE, &former);
-  std::signal(SIGXFSZ, formerHandler);
-
-  EXPECT_EQ(status, EFBIG);
+  const ustring text = u"echo " + ustring(500, u'x');
+  EXPECT_EQ(zex_test::onFullDisk([&] { return runShellCommand(text, output, errors, false); }), EFBIG);
   EXPECT_EQ(output + errors, u"");
   EXPECT_THAT(host.shellLines, ElementsAre());
   EXPECT_THAT(scratch.names(), ElementsAre());

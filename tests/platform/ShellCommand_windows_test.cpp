@@ -46,6 +46,9 @@ TEST_F(ShellCommand, TakesBothStreamsLineByLineAndTheStatus) {
   EXPECT_THAT(scratch.names(), ElementsAre("err", "log", "out")) << "a capture file stays";
   EXPECT_EQ(run(u"tool --exit -1073741510"), -1073741510);
   EXPECT_EQ(output + errors, u"");
+  const ScopedVariable missing("COMSPEC", "C:\\missing.exe");
+  EXPECT_EQ(run(u"tool --say x"), ERROR_FILE_NOT_FOUND) << "the shell itself does not start";
+  EXPECT_EQ(output + errors, u"");
 }
 
 TEST_F(ShellCommand, TheLineIsAGroupWithBothStreamsInFiles) {
@@ -70,13 +73,6 @@ TEST_F(ShellCommand, WithoutANameTheShellIsCmd) {
   std::filesystem::copy_file(shell, "CMD.EXE");  // found ahead of the system's
   EXPECT_EQ(run(u"tool --exit 5"), 5);
   EXPECT_THAT(lines(), testing::StartsWith("( tool --exit 5 ) > "));
-}
-
-TEST_F(ShellCommand, AShellThatDoesNotStartGivesTheSystemsNumberAndNoText) {
-  const ScopedVariable missing("COMSPEC", "C:\\missing.exe");
-  EXPECT_EQ(run(u"tool --say x"), ERROR_FILE_NOT_FOUND);
-  EXPECT_EQ(output + errors, u"");
-  EXPECT_THAT(scratch.names(), ElementsAre());
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 namespace zex_cmd {
 namespace {
 
-using testing::ElementsAre;
 using Permissions = std::filesystem::perms;
 
 TEST(Folders, PreferencesComeFromAVariableOnlyIfItsFolderIsThere) {
@@ -20,12 +19,10 @@ TEST(Folders, PreferencesComeFromAVariableOnlyIfItsFolderIsThere) {
   EXPECT_EQ(preferencesFolder(), u"/of/the/host");
   scratch.write("prefs/a.xml", "");
   EXPECT_EQ(preferencesFolder(), scratch.path("prefs"));
-
-  for (const char* name : {"prefs", "prefs/a.xml", "prefs/not_there.xml"}) {
+  for (const char* name : {"prefs", "prefs/a.xml", "prefs/not_there.xml"})
     EXPECT_TRUE(isInPreferencesFolder(scratch.path(name))) << name;
-  }
-  EXPECT_FALSE(isInPreferencesFolder(scratch.path("Prefs/a.xml")));
-  EXPECT_FALSE(isInPreferencesFolder(scratch.path("prefs/deeper/a.xml")));
+  for (const char* name : {"Prefs/a.xml", "prefs/deeper/a.xml"})
+    EXPECT_FALSE(isInPreferencesFolder(scratch.path(name))) << name;
 }
 
 TEST(Folders, ReplacesAFileThatIsWriteProtected) {
@@ -34,10 +31,9 @@ TEST(Folders, ReplacesAFileThatIsWriteProtected) {
   scratch.write("to", "old");
   for (const char* name : {"from", "to"}) std::filesystem::permissions(name, Permissions::owner_read);
   replaceFile(scratch.path("from"), scratch.path("to"));
-  EXPECT_THAT(scratch.names(), ElementsAre("to"));
+  EXPECT_THAT(scratch.names(), testing::ElementsAre("to"));
   EXPECT_EQ(scratch.read("to"), "new");
   EXPECT_NE(std::filesystem::status("to").permissions() & Permissions::owner_write, Permissions::none);
-  EXPECT_THROW(replaceFile(scratch.path("from"), scratch.path("to")), fl::filesystem::FsysExceptionBase);
 }
 
 }  // namespace

@@ -11,43 +11,42 @@ namespace {
 
 using testing::ElementsAre;
 using zex_test::utf8;
-using Changes = std::vector<std::pair<ustring, ustring>>;
 
-template <class Change>
-void expectChanges(const Changes& cases, Change&& change) {
-  for (const auto& [text, expected] : cases) EXPECT_EQ(utf8(change(text)), utf8(expected));
-}
-
-TEST(NormalizePath, TidiesByKindOfSeparator) {
-  const Changes cases = {
-      {u"", u""},
-      {u"//server/a//b///c", u"//server/a/b/c"},
-      {u"C:\\a\\b\\..\\..\\d", u"C:\\d"},
-      {u"../a", u"../a"},
-      {u"/../../a", u"/a"},
-      {u"/\U0001F600é/../x", u"/x"},
+TEST(Texts, ChangeByTheirRules) {
+  const auto normalized = [](const ustring& text) {
+    ustring result = text;
+    normalizePath(result);
+    return result;
   };
-  expectChanges(cases, [](ustring text) {
-    normalizePath(text);
-    return text;
-  });
-}
-
-TEST(Quoting, LooksOutsideClosedQuotesOnly) {
-  const Changes cases = {
-      {u"\"a b\"", u"\"a b\""},
-      {u"(é)&", u"\"(é)&\""},
-      {u"X=\"a b\"c", u"X=\"a b\"c"},
-      {u"X=\"a b", u"\"X=\"a b\""},
+  struct Case {
+    ustring (*change)(const ustring&);
+    ustring text, expected;
   };
-  expectChanges(cases, quoteWhenNeeded);
-  expectChanges(cases, quoteInCommand);
+  const Case cases[] = {
+      {normalized, u"", u""},
+      {normalized, u"//server/a//b///c", u"//server/a/b/c"},
+      {normalized, u"C:\\a\\b\\..\\..\\d", u"C:\\d"},
+      {normalized, u"../a", u"../a"},
+      {normalized, u"/../../a", u"/a"},
+      {normalized, u"/\U0001F600é/../x", u"/x"},
+      // Quotes count where they are closed.
+      {quoteWhenNeeded, u"\"a b\"", u"\"a b\""},
+      {quoteWhenNeeded, u"(é)&", u"\"(é)&\""},
+      {quoteWhenNeeded, u"X=\"a b\"c", u"X=\"a b\"c"},
+      {quoteWhenNeeded, u"X=\"a b", u"\"X=\"a b\""},
+      {quoteInCommand, u"X=\"a b\"c", u"X=\"a b\"c"},
+      {quoteInCommand, u"/a/-+=,.:@%_é", u"/a/-+=,.:@%_é"},
+      {quoteInCommand, u"$HOME;`x`", u"$HOME;`x`"},
+      {quoteForPosix, u"a&b", u"a&b"},
+      {quoteForPosix, u"a=b", u"'a=b'"},
+      {quoteForPosix, u"'a b'", u"'a b'"},
+      {quoteForPosix, u"\"a b\"", u"\"a b\""},
+  };
+  for (const Case& row : cases) EXPECT_EQ(utf8(row.change(row.text)), utf8(row.expected)) << utf8(row.text);
   for (const char16_t unit : ustring(zex_test::platform.quotedInCommands)) {
     const ustring text = ustring(u"/a") + unit + u"é";
     EXPECT_EQ(utf8(quoteInCommand(text)), utf8(u'"' + text + u'"'));
   }
-  expectChanges({{u"/a/-+=,.:@%_é", u"/a/-+=,.:@%_é"}, {u"$HOME;`x`", u"$HOME;`x`"}}, quoteInCommand);
-  expectChanges({{u"a&b", u"a&b"}, {u"a=b", u"'a=b'"}, {u"\"a b\"", u"\"a b\""}}, quoteForPosix);
 }
 
 TEST(Tokens, RejoinAndSplit) {

@@ -117,9 +117,16 @@ TEST_F(ZexVarResolverTest, ArgumentsGoInFrontOfTheDocumentsText) {
 }
 
 TEST_F(ZexVarResolverTest, AssignmentsExtendTheEnvironmentBlockOrElseAVariable) {
-  args->variables = {{u"COMPFLAGS", u"\"$COMPFLAGS -Wall\""}, {u"NEW", u"$NEW$NEW."}, {u"LIBPATH", u"x;$LIBPATH"}};
-  resolveWith("COMPFLAGS='-fPIC'", "<env LIBPATH='/l'/>");
-  expect({"COMPFLAGS=-fPIC -Wall", "NEW=.", "LIBPATH=-"});
+  args->includes = u" -I\"/a\"";
+  args->optimize = true;
+  args->variables = {{u"COMPFLAGS", u"\"$COMPFLAGS -Wall\""},
+                     {u"INCLUDES", u"-Iz $INCLUDES"},
+                     {u"LIBPATH", u"x;$LIBPATH"},
+                     {u"NEW", u"$NEW$NEW."},
+                     {u"OPTFLAGS", u"-O3"}};
+  resolveWith("COMPFLAGS='-fPIC' INCLUDES='-I.' OPTFLAGS='-O'", "<env LIBPATH='/l'/>");
+  // What the command's switches gave is there by then, and what they choose follows.
+  expect({"COMPFLAGS=-fPIC -Wall", "INCLUDES=-Iz -I\"/a\"  -I.", "LIBPATH=-", "NEW=.", "OPTIM=-O3"});
   EXPECT_EQ(opt->value(u"config.env.<xmlattr>.LIBPATH"), u"x;/l");
 }
 
@@ -127,10 +134,11 @@ TEST_F(ZexVarResolverTest, ClientsOverrideVariables) {
   const auto resolveFor = [&](const char* client, bool setup) {
     args->client = client;
     args->setup = setup;
-    resolveWith("CFLAGS='-O $CFLAGS'", "<client><engine CFLAGS='$CFLAGS -main' EXTRA='$NONE'/></client>");
+    resolveWith("CFLAGS='-O $CFLAGS'",
+                "<client><engine CFLAGS='$CFLAGS -main' EXENAME='x' EXTRA='$NONE'/></client>");
   };
   resolveFor("ENGINE", false);
-  expect({"CFLAGS=-O $CFLAGS -main", "EXTRA=$NONE"});
+  expect({"CFLAGS=-O $CFLAGS -main", "EXENAME=a", "EXTRA=$NONE"});
   resolveFor("engine", false);
   EXPECT_EQ(failure, "TESSEL:zex:UnknownClient(\"engine\")");
   resolveFor("ENGINE", true);
