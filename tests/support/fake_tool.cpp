@@ -1,9 +1,11 @@
 // The stand-in tool; support/FakeTool.hpp tells what it does.
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "command_line.hpp"
@@ -85,6 +87,10 @@ int run(Words words) {
   }
   keepLog(words);
   if (first == "--exit") return std::stoi(words.at(1));
+  if (first == "--wait") {
+    std::ofstream("waiting");
+    std::this_thread::sleep_for(std::chrono::minutes(1));
+  }
   if (first == "--order") return headersInWrongOrder(words);
   if (first == "--say") {
     for (std::size_t index = 1; index < words.size(); ++index)
