@@ -14,6 +14,7 @@ namespace end_to_end {
 
 using Names = std::vector<std::string>;
 
+/// The texts are in UTF-8, with lines that end in "\n" alone.
 struct Outcome {
   int status = -1;
   std::string out;
@@ -21,8 +22,8 @@ struct Outcome {
 };
 
 /// A user's working folder, which is the current one and holds copies of the files in sources/, with a preferences
-/// and a temporary folder of its own. All names hold a letter outside ASCII and, but for the temporary folder,
-/// which commands name without quotes, a blank. Messages are shown as identifiers.
+/// and a temporary folder of its own. All names hold a letter outside ASCII and, but for a temporary folder that
+/// commands name without quotes, a blank. Messages are shown as identifiers.
 class EndToEnd : public testing::Test {
  protected:
   EndToEnd();
@@ -38,35 +39,49 @@ class EndToEnd : public testing::Test {
   /// The same, and the command succeeds.
   Outcome build(const std::string& arguments, const Names& made = {}) const;
 
-  /// Runs the program that calls a product.
-  Outcome zexrun(const std::string& arguments) const { return shell("\"$OPTS/../zexrun\" " + arguments); }
+  /// Runs another program of the tree.
+  Outcome run(const std::string& program, const std::string& arguments) const;
+  Outcome zexrun(const std::string& arguments) const { return run("zexrun", arguments); }
+
+  /// Sets a variable until the test ends.
+  void set(const std::string& variable, const std::filesystem::path& value);
 
   void expectNoTemporaryFiles() const;
 
   zex_test::Scratch scratch;
   const std::filesystem::path work;
+  const std::filesystem::path preferences;
   const std::filesystem::path temporary;
 
  private:
   std::list<zex_test::ScopedVariable> variables_;
 };
 
-/// Loads a product of the current folder, calls its entry point and gives the number that it stores.
-long long answer(const std::string& product);
-
-/// The driver's version record in a product, or an empty text.
-std::string record(const std::string& product);
+/// A program of the tree.
+std::filesystem::path program(const std::string& name);
 
 std::string contentOf(const std::filesystem::path& file);
 void write(const std::filesystem::path& file, const std::string& content);
 
-/// Text of the shipped document of gcc with each occurrence of a text replaced; a failure if there is none.
+/// A text with each occurrence of another one replaced; a failure if there is none.
+std::string replaced(std::string text, const std::string& from, const std::string& to);
+
+/// That of the shipped document of gcc.
 std::string gccDocument(const std::string& from, const std::string& to);
 
-/// Whether arguments name a CUDA source and nvcc, which alone of the compilers may be missing, is not there.
-bool needsMissingTool(const std::string& arguments);
+/// The driver's version record in a product, or an empty text.
+std::string record(const std::string& product);
 
 /// How often a word is in a text.
 std::size_t timesIn(const std::string& text, const std::string& word);
+
+// --- What differs between the systems ---
+
+/// The status of a line of the system's shell, which leaves its texts in the files "out" and "err" above the
+/// current folder.
+int statusOf(const std::string& line);
+
+/// A name for the temporary folder of a test.
+std::filesystem::path temporaryFolder(const std::filesystem::path& scratch);
 
 }  // namespace end_to_end

@@ -37,27 +37,4 @@ TEST_F(EndToEnd, ADryRunPrintsWhatARealRunExecutesAndTheShellMakesTheSameProduct
   }
 }
 
-TEST_F(EndToEnd, LongCommandsGoThroughResponseFilesWithEachCompiler) {
-  const zex_test::ScopedVariable odd("TMPDIR", work.c_str());  // its name holds a blank
-  std::string folders;
-  for (int index = 0; index < 400; ++index) folders += " -L\"/usr/no folder (1)&é\"";
-  ASSERT_EQ(shell("mkdir 'i (é)' && echo '#define VALUE 64' > 'i (é)/value.h'").status, 0);
-  struct {
-    std::string sources, product;
-    long long answer;
-  } const rows[] = {
-      {"value.c", "value.zexa64", 64},   {"-f \"$OPTS/clang.xml\" value.c", "value.zexa64", 64},
-      {"value.cpp", "value.zexa64", 43}, {"-f \"$OPTS/clang++.xml\" value.cpp", "value.zexa64", 43},
-      {"bits.f90", "bits.zexa64", 64},   {"kernel.cu caller.c", "kernel.zexa64", 8},
-  };
-  for (const auto& row : rows) {
-    if (needsMissingTool(row.sources)) continue;
-    std::filesystem::remove(row.product);
-    const Outcome outcome = build(
-        "-v '-Ii (é)' -D" + std::string(8000, 'P') + " 'LINKLIBS=" + folders + "' " + row.sources, {row.product});
-    EXPECT_GE(timesIn(outcome.out, "TESSEL:zex:CreateRSPFile"), 3U) << row.sources;  // compiles and link
-    EXPECT_EQ(answer(row.product), row.answer);
-  }
-}
-
 }  // namespace end_to_end

@@ -1,7 +1,7 @@
 #include <sstream>
 
 #include "cmd/ZexCmdFactory.hpp"
-#include "end_to_end/EndToEnd.hpp"
+#include "end_to_end/Targets.hpp"
 #include "korvane/TException.hpp"
 #include "standalone/products/LoadedProducts.hpp"
 #include "support/RecordingServices.hpp"
@@ -41,13 +41,12 @@ TEST_F(Sdk, DeprecatedNamesGiveTheDriversOwnMessages) {
     std::istringstream names(row.names);
     for (std::string name; names >> name;) {
       const std::string failure = row.failure + (row.failure.back() == '"' ? name + "\")" : "");
-      for (const std::string compiler : {"gcc", "clang", "g++", "clang++"}) {
-        const std::string source = compiler.ends_with("++") ? "old.cpp" : "old.c";
-        write(source, extension(name + "();"));
-        const Outcome outcome = zex((name.size() % 2 == 0 ? "-silent -g " : "-silent -O ") + row.switches +
-                                    "-f \"$OPTS/" + compiler + ".xml\" " + source);
+      write("old.c", extension(name + "();"));
+      write("old.cpp", extension(name + "();"));
+      for (const std::string words : {"-g old.c", "-f \"$OPTS/clang++.xml\" old.cpp"}) {
+        const Outcome outcome = zex("-silent " + row.switches + words);
         EXPECT_EQ(outcome.status, 1) << name;
-        EXPECT_THAT(outcome.err, HasSubstr("zex: error: TESSEL:zex:" + failure)) << compiler;
+        EXPECT_THAT(outcome.err, HasSubstr("zex: error: TESSEL:zex:" + failure)) << words;
       }
     }
   }
@@ -64,61 +63,51 @@ TEST_F(Sdk, BlockHeadersInTheWrongOrderAreCompiledOnceMore) {
   }
 }
 
-TEST_F(Sdk, TheProductsRecordFollowsItsObjects) {
-  write("one.c", extension(""));
-  write("two.c", "#include <zex.h>\nint two = 2;\n");
-  build("-silent -R2018a -c one.c", {"one.o"});
-  build("-silent -R2017b -c two.c", {"two.o"});
-
-  const Outcome linked = build("-v one.o", {"one.zexa64"});
-  EXPECT_EQ(timesIn(linked.out, "TESSEL:zex:RecompileVer("), 1U);
-  const std::string driver = "@(#)zex-record form=1 kind=driver release=";
-  EXPECT_THAT(contentOf("one.zexa64"), HasSubstr(driver + "R2018a dims=64 cmd=1;"));
-  EXPECT_EQ(zexrun("one.zexa64").status, 0);
-
-  const Outcome mixed = zex("one.o two.o -output mixed", {"mixed.zexa64"});
-  EXPECT_EQ(mixed.status, 1);
-  EXPECT_THAT(mixed.err, testing::AllOf(HasSubstr("TESSEL:zex:Error("), HasSubstr("R2018a"), HasSubstr("R2017b")));
-
-  build("-v -no_zexcheck one.o two.o -output unchecked", {"unchecked.zexa64"});
-  EXPECT_THAT(contentOf("unchecked.zexa64"), HasSubstr(driver + "R2017b dims=64 cmd=1;"));
-  EXPECT_THAT(zexrun("unchecked.zexa64").err, HasSubstr("[TESSEL:host:InterfaceMismatch]"));
-}
-
-TEST_F(Sdk, AProductNeedsTheRuntimeOnlyIfItCallsIt) {
-  write("calls.c", extension("zexPrintf(\"x\");"));
-  build("-silent calls.c", {"calls.zexa64"});
-  build("-silent value.c", {"value.zexa64"});
-  EXPECT_THAT(shell("readelf -d calls.zexa64").out, HasSubstr("[libzx.so.1]"));
-  EXPECT_THAT(shell("readelf -d value.zexa64").out, testing::Not(HasSubstr("libzx")));
-}
-
-TEST_F(Sdk, ShippedExamplesComputeWhatTheySay) {
-  struct {
-    std::string source, arguments, numbers, failure = {};
-  } const rows[] = {
-      {"filter.c", "'[0.25 0.5 -1.5]' '[1;2;4;8]'", "0.25 1 0.5 1 "},
-      {"product.cpp", "'[1 2;3 4]' '[5 6;7 8]'", "19 22 43 50 "},
-      {"product.cpp", "\"[$(seq -s ' ' 140)]\" \"[$(seq -s ';' 140)]\"", "924490 "},  // wider than its blocks
-      {"product.cpp", "'[1 2]' '[1 2]'", "", "[product:sizes]"},
-      // As many steps as rows give the exact solution.
-      {"conjugate.f90", "'[4 1 0; 1 3 1; 0 1 2]' '[2; -2; 4]' 3", "1 -2 3 "},
-      {"conjugate.f90", "1", "", "[conjugate:arguments]"},  // unwinds through Fortran
-      {"saxpy.cu", "2.5 '[1 2 3]' '[10 20 30]'", "12.5 25 37.5 ", "[saxpy:device]"},
-  };
+TEST_P(EachTarget, ExtensionsAnswerAndFailUnderItsRunner) {
+  if (!canCallWithTree()) GTEST_SKIP() << "there is no Wine, or no tree for Windows at " ZEX_WINDOWS_TREE;
+  const std::string filtered = "ans1: real, 4 by 1\n    0.25\n       1\n     0.5\n       1\n";
+  const std::string letter = target.isWindows() ? "\xE9" : "é";
+  const std::string spoken = "1 inputs (" + letter + ")\n";
   const bool hasDevice = shell("nvidia-smi -L").status == 0;
+  struct {
+    std::string source, arguments, out, err = {};  ///< errors by their end
+    bool everywhere = true;
+  } const rows[] = {
+      {"filter.c", "'[0.25 0.5 -1.5]' '[1;2;4;8]'", filtered},
+      {"-R2018a filter.c", "'[0.25 0.5 -1.5]' '[1;2;4;8]'", filtered},
+      {"-compatibleArrayDims filter.c", "1", "", "[filter:arguments]\n"},
+      {"product.cpp", "'[1 2;3 4]' '[5 6;7 8]'", "ans1: real, 2 by 2\n    19  22\n    43  50\n"},
+      // Wider than its blocks.
+      {"product.cpp", "\"[$(seq -s ' ' 140)]\" \"[$(seq -s ';' 140)]\"", "ans1: real, 1 by 1\n    924490\n"},
+      {"product.cpp", "'[1 2]' '[1 2]'", "", "[product:sizes]\n"},
+      {"-largeArrayDims halve.f90", "3", "halving\nans1: real, 1 by 1\n    1.5\n"},
+      {"-largeArrayDims halve.f90", "", "", "error: " + letter + " [halve:inputs]\n"},  // unwinds through Fortran
+      {"echo.c", "\"'gré'\"", spoken + "ans1: text, 1 by 3\n    gr" + letter + "\n"},
+      {"echo.c", "--json \"'é'\"",
+       R"([{"name":"ans1","kind":"text","rows":1,"columns":1,"value":"é"}])"
+       "\n",
+       spoken},
+      // As many steps as rows give the exact solution.
+      {"conjugate.f90 -largeArrayDims -lblas",
+       "'[4 1 0; 1 3 1; 0 1 2]' '[2; -2; 4]' 3 | awk 'NR > 1 { printf \"%.9g \", $1 }'", "1 -2 3 ", "", false},
+      {"saxpy.cu", "2.5 '[1 2 3]' '[10 20 30]'", hasDevice ? "ans1: real, 1 by 3\n    12.5  25  37.5\n" : "",
+       hasDevice ? "" : "[saxpy:device]\n", false},
+  };
+  fs::copy(ZEX_TREE "/extern/examples", work);
+  std::string built;
+  const std::string product = "product" + target.product;
   for (const auto& row : rows) {
-    if (needsMissingTool(row.source)) continue;
-    const std::string product = fs::path(row.source).stem().string() + ".zexa64";
-    if (!fs::exists(row.source)) {
-      fs::copy(fs::path(ZEX_TREE) / "extern" / "examples" / row.source, row.source);
-      build(row.source + (row.source.ends_with(".f90") ? " -largeArrayDims -lblas" : ""), {product});
+    if (needsMissingTool(row.source) || (target.isWindows() && !row.everywhere)) continue;
+    SCOPED_TRACE(row.source + ": " + row.arguments);
+    if (row.source != built) {
+      fs::remove(product);
+      build(target.option + " -output product " + row.source, {product});
+      built = row.source;
     }
-    const Outcome outcome = zexrun(product + " " + row.arguments +
-                                   " | awk 'NR > 1 { for (i = 1; i <= NF; ++i) printf \"%.9g \", $i }'");
-    const bool fails = row.numbers.empty() || (row.source == "saxpy.cu" && !hasDevice);
-    EXPECT_EQ(outcome.out, fails ? "" : row.numbers) << row.source << outcome.err;
-    EXPECT_TRUE(fails ? outcome.err.ends_with(row.failure + "\n") : outcome.err.empty()) << outcome.err;
+    const Outcome outcome = zexrun(product + " " + row.arguments);
+    EXPECT_EQ(outcome.status, row.out.empty() ? 1 : 0);
+    EXPECT_EQ(outcome.out, row.out);
+    EXPECT_TRUE(row.err.empty() ? outcome.err.empty() : outcome.err.ends_with(row.err)) << outcome.err;
   }
 }
 

@@ -6,17 +6,7 @@ namespace {
 
 class Runner : public EndToEnd {
  protected:
-  Runner() {
-    write("echo.c", R"(#include <stdio.h>
-#include <zex.h>
-void zexFunction(int nlhs, zxArray* plhs[], int nrhs, const zxArray* prhs[]) {
-  int i;
-  printf("%d ", nrhs);
-  zexPrintf("inputs\n");
-  for (i = 0; i < nrhs && i < (nlhs > 1 ? nlhs : 1); ++i) plhs[i] = zxCopy(prhs[i]);
-})");
-    build("-silent echo.c", {"echo.zexa64"});
-  }
+  Runner() { build("-silent echo.c", {"echo.zexa64"}); }
 };
 
 TEST_F(Runner, PassesValuesOfEveryKind) {
@@ -39,18 +29,18 @@ TEST_F(Runner, PassesValuesOfEveryKind) {
     const zex_test::ScopedVariable argument("ARGUMENT", row.argument);
     const Outcome outcome = zexrun("echo.zexa64 --json \"$ARGUMENT\"");
     EXPECT_EQ(outcome.out, "[{\"name\":\"ans1\"," + std::string(row.json) + "}]\n") << row.argument << outcome.err;
-    EXPECT_EQ(outcome.err, "1 inputs\n");
+    EXPECT_EQ(outcome.err, "1 inputs (é)\n");
   }
 }
 
 TEST_F(Runner, PrintsForPeople) {
   EXPECT_EQ(zexrun("./echo.zexa64 '[1 -2.5; 1e5 4]' '[1+2i -1i]' -nlhs 4 \"'a b'\" true").out,
-            "4 inputs\n"
+            "4 inputs (é)\n"
             "ans1: real, 2 by 2\n         1  -2.5\n    100000     4\n"
             "ans2: complex, 1 by 2\n    1+2i  0-1i\n"
             "ans3: text, 1 by 3\n    a b\n"
             "ans4: logical, 1 by 1\n    true\n");
-  EXPECT_EQ(zexrun("echo.zexa64").out, "0 inputs\n");
+  EXPECT_EQ(zexrun("echo.zexa64").out, "0 inputs (é)\n");
 }
 
 TEST_F(Runner, RefusesWithAReason) {

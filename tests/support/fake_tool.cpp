@@ -1,5 +1,6 @@
 // The stand-in tool; support/FakeTool.hpp tells what it does.
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iomanip>
@@ -7,6 +8,7 @@
 #include <iterator>
 #include <sstream>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "command_line.hpp"
@@ -69,6 +71,10 @@ int run(Words words) {
   }
   keepLog(words);
   if (first == "--exit") return std::stoi(words.at(1));
+  if (first == "--wait") {
+    std::ofstream("waiting");
+    std::this_thread::sleep_for(std::chrono::minutes(1));
+  }
   if (first == "--order") return headersInWrongOrder(words);
   if (first == "--say") {
     for (std::size_t index = 1; index < words.size(); ++index)

@@ -3,19 +3,23 @@
 #include <bit>
 #include <csignal>
 
-#include "windows/WindowsTree.hpp"
+#include "end_to_end/EndToEnd.hpp"
+#include "support/Documents.hpp"
+#include "support/FakeTool.hpp"
+#include "support/platform.hpp"
 
-namespace windows_tests {
+namespace end_to_end {
 namespace {
 
 namespace fs = std::filesystem;
+using zex_test::Document;
 
-class WindowsInterrupts : public WindowsTree {
+class WindowsInterrupts : public EndToEnd {
  protected:
   /// Starts `zex`, waits until it is in its tool, and has the system's routine for keys run in it. The key
   /// itself cannot be pressed without a console.
   static int statusAfterBreak(const std::wstring& arguments) {
-    std::wstring line = L"\"" + (tree() / "bin" / "win64" / "zex.exe").native() + L"\" " + arguments;
+    std::wstring line = L"\"" + program("zex").native() + L"\" " + arguments;
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
@@ -34,26 +38,29 @@ class WindowsInterrupts : public WindowsTree {
     CloseHandle(process.hProcess);
     return static_cast<int>(code);
   }
+
+  const zex_test::FakeTool tool;
 };
 
 TEST_F(WindowsInterrupts, EndTheToolAndTheCommand) {
-  write("a.c", "");
-  writeOddDocument("CMDLINE100='$TOOL wait -c $SRC -o $OBJ' CMDLINE200='$TOOL make a.zexw64'");
-  EXPECT_EQ(statusAfterBreak(L"a.c -f odd.xml"), 128 + SIGBREAK);
-  EXPECT_TRUE(fs::is_empty(temporary));
-  EXPECT_FALSE(fs::exists("a.zexw64"));
+  write("my.xml", replaced(Document().xml(), "CMDLINE100=\"$COMPILER", "CMDLINE100=\"tool --wait"));
+  EXPECT_EQ(statusAfterBreak(L"value.c -f my.xml"), 128 + SIGBREAK);
+  expectNoTemporaryFiles();
+  EXPECT_FALSE(fs::exists("value.zexa64"));
 }
 
 TEST_F(WindowsInterrupts, OfASearchSelectNothing) {
   // Without the first compiler the second would be taken.
-  const std::string tool = std::filesystem::absolute(ZEX_ODD_TOOL).string();
-  writeOddDocument("", "<cmdReturns name='\"" + tool + "\" wait'/>");
-  fs::rename("odd.xml", tree() / "bin/win64/zexopts/aa_odd.xml");
-  set("MINGW64_HOME", mingw());
+  const fs::path catalogue = scratch.folder() / "root/bin/win64/zexopts";
+  fs::create_directories(catalogue);
+  set("TESSEL_ROOT", scratch.folder() / "root");
+  const std::string second = Document().xml();
+  write(catalogue / "b.xml", second);
+  const std::string first = replaced(second, "Priority=\"B\"", "Priority=\"A\"");
+  write(catalogue / "a.xml", replaced(first, "<dirExists name=\".\"", "<cmdReturns name=\"tool --wait\""));
   EXPECT_EQ(statusAfterBreak(L"-setup C"), 128 + SIGBREAK);
-  EXPECT_TRUE(fs::is_empty(work.parent_path() / "prefs"));
-  fs::remove(tree() / "bin/win64/zexopts/aa_odd.xml");
+  EXPECT_TRUE(fs::is_empty(preferences));
 }
 
 }  // namespace
-}  // namespace windows_tests
+}  // namespace end_to_end

@@ -5,32 +5,24 @@
 #include <windows.h>
 
 #include <cstdio>
-#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 
 namespace {
 
+namespace fs = std::filesystem;
+
 constexpr int badLine = 9009;
 
-std::wstring variable(const wchar_t* name) {
-  std::wstring value(GetEnvironmentVariableW(name, nullptr, 0), L'\0');
-  value.resize(GetEnvironmentVariableW(name, value.data(), static_cast<DWORD>(value.size())));
-  return value;
-}
-
 void keep(const std::wstring& line) {
-  const std::wstring log = variable(L"ZEX_TEST_SHELL_LOG");
-  if (log.empty()) return;
-  std::string bytes(line.size() * 3, '\0');
-  bytes.resize(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, line.data(), static_cast<int>(line.size()),
-                                                            bytes.data(), static_cast<int>(bytes.size()), nullptr,
-                                                            nullptr)));
-  if (std::FILE* const file = _wfopen(log.c_str(), L"ab")) {
-    std::fprintf(file, "%s\n", bytes.c_str());
-    std::fclose(file);
-  }
+  const wchar_t* const log = _wgetenv(L"ZEX_TEST_SHELL_LOG");
+  if (log == nullptr) return;
+  const std::u8string bytes = fs::path(line).u8string();
+  std::ofstream(fs::path(log), std::ios::binary | std::ios::app)
+      << std::string(bytes.begin(), bytes.end()) << '\n';
 }
 
 /// What stands behind the last occurrence of a mark, which is cut off together with it.
@@ -43,61 +35,50 @@ std::wstring cutBehind(std::wstring& text, std::wstring_view mark) {
   return rest;
 }
 
-HANDLE opened(const std::wstring& path) {
+void redirect(DWORD stream, const std::wstring& path) {
   SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
   const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS,
                                   FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file == INVALID_HANDLE_VALUE) throw std::runtime_error("a capture file cannot be made");
-  return file;
+  SetStdHandle(stream, file);
 }
 
-/// Whether Wine's own shell has to read the text.
+/// Whether the text is more than a program and its words.
 bool needsShell(std::wstring_view text) {
   bool quoted = false;
   for (const wchar_t unit : text) {
     if (unit == L'"') quoted = !quoted;
     if (!quoted && std::wstring_view(L"&|<>^%()").find(unit) != std::wstring_view::npos) return true;
   }
-  for (const std::wstring_view word : {L"echo", L"exit", L"type", L"if ", L"set ", L"del ", L"mkdir"}) {
-    if (text.starts_with(word)) return true;
-  }
   return false;
 }
 
-int started(std::wstring command, const std::wstring& output, const std::wstring& errors) {
+bool start(std::wstring command, PROCESS_INFORMATION& process) {
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
-  startup.dwFlags = STARTF_USESTDHANDLES;
-  startup.hStdInput = GetStdHandle(STD_INPUT_HANDLE);
-  startup.hStdOutput = opened(output);
-  startup.hStdError = opened(errors);
-  PROCESS_INFORMATION process{};
-  if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process) ==
-      0) {
-    const std::string words = "the program is not recognized: " + std::to_string(GetLastError()) + "\r\n";
-    DWORD written = 0;
-    WriteFile(startup.hStdError, words.data(), static_cast<DWORD>(words.size()), &written, nullptr);
-    return badLine;
-  }
-  WaitForSingleObject(process.hProcess, INFINITE);
-  DWORD code = 0;
-  GetExitCodeProcess(process.hProcess, &code);
-  return static_cast<int>(code);
+  return CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
+                        &process) != 0;
 }
 
 int run(std::wstring line) {
   constexpr std::wstring_view enters = L"pushd ";
   if (line.starts_with(enters)) {
     const std::size_t end = line.find(L" & ");
-    if (!SetCurrentDirectoryW(line.substr(enters.size(), end - enters.size()).c_str()))
-      throw std::runtime_error("the folder cannot be entered");
+    fs::current_path(line.substr(enters.size(), end - enters.size()));
     line.erase(0, end + 3);
   }
-  const std::wstring errors = cutBehind(line, L" 2> ");
-  const std::wstring output = cutBehind(line, L" ) > ");
+  redirect(STD_ERROR_HANDLE, cutBehind(line, L" 2> "));
+  redirect(STD_OUTPUT_HANDLE, cutBehind(line, L" ) > "));
   if (!line.starts_with(L"( ")) throw std::invalid_argument("the line does not begin a group");
+
   const std::wstring text = line.substr(2);
-  return started(needsShell(text) ? L"cmd.exe /s /c \"" + text + L"\"" : text, output, errors);
+  PROCESS_INFORMATION process{};
+  if ((needsShell(text) || !start(text, process)) && !start(L"cmd.exe /s /c \"" + text + L"\"", process))
+    throw std::runtime_error("the program cannot be started");
+  WaitForSingleObject(process.hProcess, INFINITE);
+  DWORD code = 0;
+  GetExitCodeProcess(process.hProcess, &code);
+  return static_cast<int>(code);
 }
 
 }  // namespace
