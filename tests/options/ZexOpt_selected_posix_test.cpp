@@ -33,8 +33,8 @@ TEST_F(FullDisk, AFailedWriteIsReportedAndDoesNotStay) {
     scratch.write("prefs/saved.xml", identifier);
     EXPECT_THAT(failureOnFullDisk([&] { opt.writeSelected(scratch.path("prefs/saved.xml")); }),
                 testing::StartsWith(std::string("TESSEL:zex:") + identifier + "(\"" + path + "\""));
-    EXPECT_EQ(scratch.names("prefs"), std::vector<std::string>{"saved_backup.xml"});
-    EXPECT_EQ(scratch.read("prefs/saved_backup.xml"), identifier);
+    EXPECT_EQ(scratch.names("prefs"), std::vector<std::string>{"saved.xml"});
+    EXPECT_EQ(scratch.read("prefs/saved.xml"), identifier);
     opt.setVariable(u"LONG", ustring(100'000, u'x'));
   }
 }
