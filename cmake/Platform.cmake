@@ -36,7 +36,7 @@ function(zex_library_in_tree target)
                LIBRARY_OUTPUT_DIRECTORY ${ZEX_TREE_BIN}
                RUNTIME_OUTPUT_DIRECTORY ${ZEX_TREE_BIN}
                ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib
-               BUILD_RPATH_USE_ORIGIN ON
+               BUILD_WITH_INSTALL_RPATH ON
                INSTALL_RPATH "${ZEX_BESIDE_ITSELF}")
 endfunction()
 

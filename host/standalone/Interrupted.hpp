@@ -11,7 +11,8 @@ namespace host::standalone {
 class ZEXHOST_API Interrupted : public std::exception {
  public:
   explicit Interrupted(int signal) : signal_(signal) {}
-  const char* what() const noexcept override { return "interrupted"; }
+  /// "interrupted", and whether tools had to be killed for it.
+  const char* what() const noexcept override;
   int signal() const { return signal_; }
 
  private:

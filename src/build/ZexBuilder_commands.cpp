@@ -2,6 +2,7 @@
 
 #include "args/ZexArgs.hpp"
 #include "build/CommandClassifier.hpp"
+#include "build/InterruptedProduct.hpp"
 #include "build/ZexBuilder.hpp"
 #include "build/ZexCommandResult.hpp"
 #include "build/built_file.hpp"
@@ -25,6 +26,7 @@ constexpr char16_t versionSourceMark[] = u"_zexapi_version.";
 }  // namespace
 
 void ZexBuilder::runCommands(const boost::shared_ptr<ZexOpt>& option) {
+  const InterruptedProduct product(option->variable(u"EXE"));
   const CommandClassifier classifier(*option);
   for (const ustring& key : option->commandLinePaths()) {
     if (prepareCommand(option->requiredValue(key), option, classifier)) executeCommand();

@@ -1,4 +1,5 @@
 #include <boost/property_tree/xml_parser.hpp>
+#include <optional>
 
 #include "cmd/messages/notices.hpp"
 #include "cmd/messages/raise.hpp"
@@ -15,19 +16,36 @@ namespace {
 
 namespace names = fl::filesystem::detail;
 
-void moveToBackup(const ustring& path) {
-  const ustring backup = backupPathFor(path);
-  replaceFile(path, backup);
-  printMessage(msg::FileRenamed(path, backup));
-}
+/// The file under its backup's name. Where the new one cannot be written, it is moved back.
+class FormerFile {
+ public:
+  explicit FormerFile(const ustring& path) : path_(path), backup_(backupPathFor(path)) {
+    replaceFile(path_, backup_);
+    printMessage(msg::FileRenamed(path_, backup_));
+  }
+  ~FormerFile() {
+    try {
+      if (!fl::filesystem::exists(path_)) replaceFile(backup_, path_);
+    } catch (const fl::filesystem::FsysExceptionBase&) {
+      // It stays where the message told.
+    }
+  }
+  FormerFile(const FormerFile&) = delete;
+  FormerFile& operator=(const FormerFile&) = delete;
+
+ private:
+  ustring path_;
+  ustring backup_;
+};
 
 }  // namespace
 
 void ZexOpt::writeSelected(const ustring& path) {
+  std::optional<FormerFile> former;
   // Folders are compared as text, so a different spelling of the preferences folder is another folder.
   if (names::remove_filename(path) == preferencesFolder()) {
     stampRelease();
-    if (fl::filesystem::exists(path)) moveToBackup(path);
+    if (fl::filesystem::exists(path)) former.emplace(path);
   }
   try {
     removeValue(attributePrefix(u"config") + u"Zexopt");

@@ -40,10 +40,14 @@ std::int32_t runShellCommand(const ustring& text, ustring& standardOutput, ustri
                              bool calledFromHost) {
   standardOutput.clear();
   standardError.clear();
-  const ZexTempFile script(true, {});
-  const ZexTempFile output(true, {});
-  const ZexTempFile errors(true, {});
+  ZexTempFile script(true, {});
+  ZexTempFile output(true, {});
+  ZexTempFile errors(true, {});
 
+  // All three ahead of the script's content, which tells the names of the other two.
+  for (ZexTempFile* file : {&script, &output, &errors}) {
+    if (const int failure = file->makeFile(); failure != 0) return failure;
+  }
   // Half a command could do anything.
   if (const int failure = writeScript(script, text, output, errors); failure != 0) return failure;
 

@@ -51,8 +51,14 @@ std::int32_t runProcess(ustring commandLine) {
 
 std::int32_t runShellCommand(const ustring& text, ustring& standardOutput, ustring& standardError,
                              bool /*calledFromHost*/) {
-  const ZexTempFile output(true, {});
-  const ZexTempFile errors(true, {});
+  standardOutput.clear();
+  standardError.clear();
+  ZexTempFile output(true, {});
+  ZexTempFile errors(true, {});
+  // Ahead of the line, which tells their names.
+  for (ZexTempFile* file : {&output, &errors}) {
+    if (const int failure = file->makeFile(); failure != 0) return failure;
+  }
   const ustring line =
       u"( " + text + u" ) > " + quoteWhenNeeded(output.path()) + u" 2> " + quoteWhenNeeded(errors.path());
 

@@ -18,7 +18,7 @@ EXPECTED = ROOT / "tests/installation/commands"
 SOURCES = {"C": "a.c", "C++": "a.cpp", "CUDA": "a.cu", "FORTRAN": "a.f90"}
 REQUESTS = ("-DNAME=1 -Iinc -Lfolder -lfoo {}", "-g {}", "-c {}", "-client ENGINE {}")
 # The same in nearly every build: shown for the first request.
-ALWAYS = re.compile("^mkdir |^for |/extern/version/")
+ALWAYS = re.compile("^folder=|^for |/extern/version/")
 # Compilers that are not there have no version, and Fortran has a default to warn of.
 WARNINGS = r"(zex: warning: .*\[TESSEL:zex:(MinGWVersion|FortranLargeArrayDimsWarn)\]\n)*"
 SET_ENV = re.compile(r'''TESSEL:zex:SetEnv\("(\w+)", "(.*)"\)''')

@@ -17,8 +17,8 @@ TEST_F(FullDisk, AFailedWriteIsReportedAndDoesNotStay) {
     scratch.write("prefs/saved.xml", identifier);
     EXPECT_THAT(zex_test::onFullDisk(failure),
                 testing::StartsWith("TESSEL:zex:" + identifier + "(\"" + scratch.told("prefs/saved.xml") + "\""));
-    EXPECT_THAT(scratch.names("prefs"), testing::ElementsAre("saved_backup.xml"));
-    EXPECT_EQ(scratch.read("prefs/saved_backup.xml"), identifier);
+    EXPECT_THAT(scratch.names("prefs"), testing::ElementsAre("saved.xml"));
+    EXPECT_EQ(scratch.read("prefs/saved.xml"), identifier);
     opt.setVariable(u"LONG", ustring(100'000, u'x'));
   }
 }

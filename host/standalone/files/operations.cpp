@@ -8,6 +8,7 @@
 #include "standalone/files/file_failures.hpp"
 #include "standalone/files/native_path.hpp"
 #include "standalone/files/path_names.hpp"
+#include "standalone/files/private_entries.hpp"
 #include "standalone/files/remove_tree.hpp"
 
 namespace fl::filesystem {
@@ -52,6 +53,17 @@ bool hasRoot(const ustring& path) {
   return root.empty() || exists(root);
 }
 
+template <class Make>
+bool makeFolders(const ustring& path, Make make) {
+  std::error_code reason;
+  const bool made = make(nativePath(path), reason);
+  // A dangling link in the way is told as something that exists.
+  if (reason == std::errc::file_exists) reason = std::make_error_code(std::errc::not_a_directory);
+  if (reason && !hasRoot(path)) reason = std::make_error_code(std::errc::no_such_file_or_directory);
+  if (reason) raiseFileFailure(path, reason);
+  return made;
+}
+
 }  // namespace
 
 bool exists(const ustring& path) {
@@ -83,13 +95,27 @@ ustring absolute(const ustring& path, const ustring& base) {
 }
 
 bool create_directories(const ustring& path) {
-  std::error_code reason;
-  const bool made = fs::create_directories(nativePath(path), reason);
-  // A dangling link in the way is told as something that exists.
-  if (reason == std::errc::file_exists) reason = std::make_error_code(std::errc::not_a_directory);
-  if (reason && !hasRoot(path)) reason = std::make_error_code(std::errc::no_such_file_or_directory);
-  if (reason) raiseFileFailure(path, reason);
-  return made;
+  return makeFolders(
+      path, [](const fs::path& name, std::error_code& reason) { return fs::create_directories(name, reason); });
+}
+
+bool create_private_directories(const ustring& path) {
+  return makeFolders(path, host::standalone::makePrivateFolders);
+}
+
+int create_private_file(const ustring& path) {
+  std::error_code reason = std::make_error_code(std::errc::illegal_byte_sequence);
+  if (const auto native = nativePathIfAny(path)) host::standalone::makePrivateFile(*native, reason);
+  return reason.value();
+}
+
+file_stamp stamp(const ustring& path) {
+  const auto native = nativePathIfAny(path);
+  std::error_code missing;
+  const std::uintmax_t size = native ? fs::file_size(*native, missing) : 0;
+  if (!native || missing) return {};
+  const auto time = fs::last_write_time(*native, missing);
+  return {size, missing ? 0 : time.time_since_epoch().count()};
 }
 
 bool remove(const ustring& path) {

@@ -15,7 +15,7 @@ std::string native_access_form(const ustring& path) {
 
 basic_ifstream::basic_ifstream(const ustring& path, std::ios_base::openmode mode) {
   const auto native = nativePathIfAny(path);
-  if (!native || is_directory(status(path))) {
+  if (!native || !is_regular(status(path))) {
     setstate(failbit);
     return;
   }

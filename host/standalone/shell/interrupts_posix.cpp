@@ -21,15 +21,17 @@ void note(int signal) {
 void installInterruptHandlers() {
   struct sigaction noting {};
   noting.sa_handler = note;
-  noting.sa_flags = SA_RESTART;
+  // No SA_RESTART: opening a pipe may wait for ever.
+  noting.sa_flags = 0;
   sigemptyset(&noting.sa_mask);
   for (const int signal : SignalForwarding::signals) {
     struct sigaction former {};
     sigaction(signal, nullptr, &former);
     if (former.sa_handler != SIG_IGN) sigaction(signal, &noting, nullptr);
   }
-  // Dying of a closed pipe would leave the temporary folder behind.
+  // Dying of a closed pipe, or at the limit of file sizes, would leave the temporary folder behind.
   std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
 }
 
 void letInterruptsEndTheProgram() {
@@ -42,6 +44,12 @@ void awaitEndOfTools() {}
 
 int pendingInterrupt() {
   return firstNoted;
+}
+
+const char* Interrupted::what() const noexcept {
+  static_assert(SignalForwarding::graceSeconds == 3);
+  return SignalForwarding::hasKilled() ? "interrupted; what went on for 3 seconds after that was killed"
+                                       : "interrupted";
 }
 
 }  // namespace host::standalone

@@ -97,4 +97,8 @@ int pendingInterrupt() {
   return firstNoted;
 }
 
+const char* Interrupted::what() const noexcept {
+  return "interrupted";
+}
+
 }  // namespace host::standalone

@@ -7,13 +7,17 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <mutex>
 #include <optional>
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include "fl/i18n/strings.hpp"
 #include "host/temporary_folders.hpp"
 #include "standalone/shell/SignalForwarding.hpp"
+#include "standalone/shell/process_group.hpp"
 #include "standalone/shell/shell_line.hpp"
 #include "texts/utf.hpp"
 
@@ -112,6 +116,37 @@ class SpawnSettings {
   posix_spawnattr_t attributes_;
 };
 
+/// The words of a line that is `sh` with plain words behind it, none of any other line. Such a line needs no shell
+/// around it. Any other program would: a shell may be what its name stands for, and it changes the environment, as
+/// the shell that is started here does by itself.
+std::vector<std::string> wordsOfShellAlone(const std::string& line) {
+  constexpr char plain[] = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_./-+,:@% ";
+  if (!line.starts_with("sh ") || line.find_first_not_of(plain) != std::string::npos) return {};
+  std::istringstream stream(line);
+  return {std::istream_iterator<std::string>(stream), {}};
+}
+
+using Start = decltype(posix_spawn);
+
+int startBy(Start start, const char* program, std::vector<std::string> words, const SpawnSettings& settings,
+            pid_t& child) {
+  std::vector<char*> arguments;
+  for (std::string& word : words) arguments.push_back(word.data());
+  arguments.push_back(nullptr);
+  return start(&child, program, settings.files(), settings.attributes(), arguments.data(), environ);
+}
+
+/// Zero, or the system's error number.
+int startLine(const std::string& line, const SpawnSettings& settings, pid_t& child) {
+  const std::vector<std::string> words = wordsOfShellAlone(line);
+  const char* const path = std::getenv("PATH");
+  // Without a PATH each shell has one of its own, and what cannot be started is a shell's to tell.
+  const bool isStarted = !words.empty() && path != nullptr && *path != '\0' &&
+                         startBy(posix_spawnp, "sh", words, settings, child) == 0;
+  // "--", or a line that begins with a dash would be taken for options.
+  return isStarted ? 0 : startBy(posix_spawn, "/bin/sh", {"sh", "-c", "--", line}, settings, child);
+}
+
 ShellResult withoutText(int status) {
   return {status, {}};
 }
@@ -139,7 +174,7 @@ int reap(pid_t child) {
 }
 
 /// Starts the line and sees it through; the status is the shell's, or the system's error number.
-ShellResult run(Services& services, std::string line) {
+ShellResult run(Services& services, const std::string& line) {
   SignalForwarding forwarding;
   // Looked at after the handlers stand: what comes later is forwarded.
   services.stopIfInterrupted();
@@ -149,17 +184,14 @@ ShellResult run(Services& services, std::string line) {
   const CaptureFile errors;
   if (errors.error() != 0) return withoutText(errors.error());
 
-  // "--", or a line that begins with a dash would be taken for options.
-  std::string shell = "sh", command = "-c", noMoreOptions = "--";
-  char* const arguments[] = {shell.data(), command.data(), noMoreOptions.data(), line.data(), nullptr};
   const SpawnSettings settings(output, errors, forwarding);
   pid_t child = 0;
-  if (const int error =
-          posix_spawn(&child, "/bin/sh", settings.files(), settings.attributes(), arguments, environ))
-    return withoutText(error);
+  if (const int error = startLine(line, settings, child); error != 0) return withoutText(error);
 
   forwarding.to(child);
   const int waitError = waitForEnd(child);
+  // Tools may outlive the shell that started them, and still write.
+  if (forwarding.isInterrupted()) awaitEndOfGroup(child);
   forwarding.stop();
   const int status = waitError != 0 ? waitError : reap(child);
 
@@ -172,14 +204,14 @@ ShellResult run(Services& services, std::string line) {
 
 ShellResult runLineOfShell(Services& services, const fl::ustring& line) {
   // A line with a replaced or cut-off character would be another command.
-  std::optional<std::string> bytes = toUtf8Exactly(line);
+  const std::optional<std::string> bytes = toUtf8Exactly(line);
   if (!bytes) return withoutText(EILSEQ);
   if (bytes->find('\0') != std::string::npos) return withoutText(EINVAL);
 
   static std::mutex oneAtATime;
   const std::lock_guard lock(oneAtATime);
   std::fflush(stdout);
-  const ShellResult result = run(services, std::move(*bytes));
+  const ShellResult result = run(services, *bytes);
   // A line that an interrupt ended must not pass for one that failed by itself.
   services.stopIfInterrupted();
   return result;

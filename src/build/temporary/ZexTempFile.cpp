@@ -31,7 +31,7 @@ ustring firstSetFolder() {
 
 ustring systemTempDirectory() {
   const ustring folder = firstSetFolder();
-  if (!fs::is_directory(fs::status(folder))) fs::create_directories(folder);
+  if (!fs::is_directory(fs::status(folder))) fs::create_private_directories(folder);
   return folder;
 }
 
@@ -44,11 +44,20 @@ ustring uniqueTempName(const ustring& directory) {
 ZexTempFile::ZexTempFile(bool isFile, const ustring& directory)
     : path_(uniqueTempName(directory)), isFile_(isFile) {
   if (isFile_) return;
-  if (!fs::exists(path_)) fs::create_directories(path_);
+  // In a folder that many share, another could have made it and wait for what is put there.
+  if (!fs::create_private_directories(path_))
+    throw fs::SystemError(fl::i18n::to_string(path_) + ": the name of a new folder is taken");
   path_ = fs::detail::make_native_form(path_);
 }
 
+int ZexTempFile::makeFile() {
+  const int failure = fs::create_private_file(path_);
+  isOurs_ = failure == 0;
+  return failure;
+}
+
 ZexTempFile::~ZexTempFile() {
+  if (!isOurs_) return;
   try {
     if (isFile_) {
       fs::remove(path_);

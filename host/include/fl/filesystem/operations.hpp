@@ -26,6 +26,22 @@ ZEXHOST_API ustring absolute(const ustring& path, const ustring& base = {});
 /// Throws NotDirectoryError where a file stands in the way.
 ZEXHOST_API bool create_directories(const ustring& path);
 
+/// As `create_directories`; what is made is for the owner alone, whatever the umask. False where the folder, or a
+/// link to one, was there.
+ZEXHOST_API bool create_private_directories(const ustring& path);
+
+/// Makes an empty file for the owner alone, whatever the umask. Zero, or the system's error number, as for a name
+/// that is taken: nothing is overwritten, and no link followed.
+ZEXHOST_API int create_private_file(const ustring& path);
+
+/// For telling whether a file was written meanwhile. Both are zero where there is none.
+struct file_stamp {
+  std::uintmax_t size = 0;
+  std::int64_t time = 0;  ///< of the last change, in the finest steps that the system has
+  bool operator==(const file_stamp&) const = default;
+};
+ZEXHOST_API file_stamp stamp(const ustring& path);
+
 /// True if something was removed; a missing path is no failure.
 ZEXHOST_API bool remove(const ustring& path);
 
