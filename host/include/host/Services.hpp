@@ -56,7 +56,7 @@ class ZEXHOST_API Services {
   virtual ShellResult runShellLine(const fl::ustring& line, bool calledFromHost) = 0;
 
   /// Called ahead of and behind every command that the driver starts without `runShellLine`, as it does on
-  /// Windows. A host that was interrupted meanwhile throws, which ends the driver's command.
+  /// Windows, and where much reading may lie ahead. A host that was interrupted meanwhile throws, which ends the driver's command.
   virtual void stopIfInterrupted() {}
 
   /// Calls a function of the host by name. The inputs stay the caller's. `outputs` has `outputCount` places, null
