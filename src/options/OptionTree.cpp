@@ -97,9 +97,13 @@ void demandGood(const std::ostream& stream) {
   if (!stream) throw std::ios_base::failure("write failed");
 }
 
-void writeAll(std::ostream& stream, const OptionTree::Element& root) {
+pt::ptree narrowed(const OptionTree::Element& root) {
   pt::ptree narrow;
   convertInto(narrow, root, toDocument);
+  return narrow;
+}
+
+void writeAll(std::ostream& stream, const pt::ptree& narrow) {
   pt::write_xml(stream, narrow, pt::xml_writer_settings<std::string>('\t', 1, encoding));
   stream.flush();
   demandGood(stream);
@@ -151,11 +155,18 @@ void OptionTree::readXml(const ustring& path) {
   convertInto(root, parsed(textOf(path)), fromDocument);
 }
 
+void OptionTree::requireReadable() const {
+  const pt::ptree narrow = narrowed(root);
+  std::ostringstream stream;
+  writeAll(stream, narrow);
+  if (parsed(stream.str()) != narrow) refuse("a value in it would read back as another one");
+}
+
 void OptionTree::writeXml(const ustring& path) const {
   fs::basic_ofstream stream(path);
   demandGood(stream);
   try {
-    writeAll(stream, root);
+    writeAll(stream, narrowed(root));
   } catch (...) {
     stream.close();
     removeTruncated(path);

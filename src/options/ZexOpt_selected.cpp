@@ -21,11 +21,22 @@ void moveToBackup(const ustring& path) {
   printMessage(msg::FileRenamed(path, backup));
 }
 
+void requireReadable(const OptionTree& tree, const ustring& path) {
+  try {
+    tree.requireReadable();
+  } catch (const std::exception& failure) {
+    raiseTyped(msg::XMLWriteFailedWithMsg(path, failure.what()));
+  }
+}
+
 }  // namespace
 
 void ZexOpt::writeSelected(const ustring& path) {
   // Folders are compared as text, so a different spelling of the preferences folder is another folder.
-  if (names::remove_filename(path) == preferencesFolder()) {
+  const bool isPreference = names::remove_filename(path) == readablePreferencesFolder();
+  // Ahead of all else: what cannot be read back must not take the place of what can.
+  requireReadable(*tree_, path);
+  if (isPreference) {
     stampRelease();
     if (fl::filesystem::exists(path)) moveToBackup(path);
   }
@@ -38,7 +49,7 @@ void ZexOpt::writeSelected(const ustring& path) {
   } catch (const boost::property_tree::ptree_error& failure) {
     raiseTyped(msg::XMLWriteFailedWithMsg(path, failure.what()));
   } catch (...) {
-    raiseTyped(msg::XMLWriteFailed(path));
+    raiseTyped(withNote(msg::XMLWriteFailed(path), isPreference ? preferencesHint : u""));
   }
 }
 

@@ -75,6 +75,15 @@ TEST_F(Query, GivesTheRecordsOfEachKindInKeyOrder) {
   EXPECT_TRUE(tree.scratch.names("prefs").empty());
 }
 
+TEST_F(Query, ASelectedFileBesideACatalogueThatDoesNotFindItsCompilerIsResolved) {
+  Document selected;
+  selected.name = "3";
+  tree.scratch.write("prefs/" + zex_test::selection, selected.xml());
+  for (const CompilerRecord& record : zex.queryCompilers("c", "installed", architecture))
+    EXPECT_EQ(record.at(u"Location"), u".");
+  EXPECT_EQ(query("c", "installed"), "123");
+}
+
 TEST_F(Query, EmptyPriorityIsTheDefault) {
   offer("f.xml", "6", "", "C");
   EXPECT_EQ(query("c", "default"), "6");

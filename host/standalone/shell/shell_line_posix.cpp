@@ -112,8 +112,8 @@ class SpawnSettings {
   posix_spawnattr_t attributes_;
 };
 
-ShellResult withoutText(int status) {
-  return {status, {}};
+ShellResult notStarted(int status) {
+  return {status, {}, false};
 }
 
 int statusAfterDeathBy(int signal) {
@@ -145,9 +145,9 @@ ShellResult run(StandaloneServices& services, std::string line) {
   services.stopIfInterrupted();
 
   const CaptureFile output;
-  if (output.error() != 0) return withoutText(output.error());
+  if (output.error() != 0) return notStarted(output.error());
   const CaptureFile errors;
-  if (errors.error() != 0) return withoutText(errors.error());
+  if (errors.error() != 0) return notStarted(errors.error());
 
   // "--", or a line that begins with a dash would be taken for options.
   std::string shell = "sh", command = "-c", noMoreOptions = "--";
@@ -156,7 +156,7 @@ ShellResult run(StandaloneServices& services, std::string line) {
   pid_t child = 0;
   if (const int error =
           posix_spawn(&child, "/bin/sh", settings.files(), settings.attributes(), arguments, environ))
-    return withoutText(error);
+    return notStarted(error);
 
   forwarding.to(child);
   const int waitError = waitForEnd(child);
@@ -165,7 +165,7 @@ ShellResult run(StandaloneServices& services, std::string line) {
 
   std::string text = output.content();
   if (status != 0) text += errors.content();
-  return {status, fl::i18n::to_ustring(text)};
+  return {status, fl::i18n::to_ustring(text), true};
 }
 
 }  // namespace
@@ -173,8 +173,8 @@ ShellResult run(StandaloneServices& services, std::string line) {
 ShellResult StandaloneServices::runShellLine(const fl::ustring& line, bool /*calledFromHost*/) {
   // A line with a replaced or cut-off character would be another command.
   std::optional<std::string> bytes = toUtf8Exactly(line);
-  if (!bytes) return withoutText(EILSEQ);
-  if (bytes->find('\0') != std::string::npos) return withoutText(EINVAL);
+  if (!bytes) return notStarted(EILSEQ);
+  if (bytes->find('\0') != std::string::npos) return notStarted(EINVAL);
 
   static std::mutex oneAtATime;
   const std::lock_guard lock(oneAtATime);
