@@ -10,11 +10,14 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   target_compile_options(zex_warnings INTERFACE -Wno-restrict)
 endif()
 
-if(ZEX_SANITIZE)
+if(ZEX_SANITIZE OR ZEX_FUZZ)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # Instrumented code of the standard library's regular expressions looks uninitialised to the compiler.
     target_compile_options(zex_warnings INTERFACE -Wno-maybe-uninitialized)
   endif()
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+endif()
+if(ZEX_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
 endif()

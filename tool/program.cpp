@@ -3,12 +3,15 @@
 #include <cstdio>
 #include <exception>
 #include <new>
+#include <utility>
 
 #include "cmd/ZexCmdFactory.hpp"
 #include "command_line.hpp"
 #include "environment.hpp"
 #include "fl/filesystem/exceptions.hpp"
+#include "fl/filesystem/operations.hpp"
 #include "fl/i18n/MessageCatalog.hpp"
+#include "fl/i18n/environment.hpp"
 #include "fl/i18n/strings.hpp"
 #include "foundation/core/except/IException.hpp"
 #include "korvane/TException.hpp"
@@ -94,6 +97,30 @@ std::vector<fl::ustring> argumentsOf(int count, char** values) {
   return arguments;
 }
 
+/// A warning of a program's own.
+class Warning : public resource_core::BaseMsgID {
+ public:
+  explicit Warning(fl::ustring text) : text_(std::move(text)) {}
+  const std::string& component() const override { return component_; }
+  const std::string& tag() const override { return tag_; }
+  std::size_t argumentCount() const override { return 1; }
+  fl::ustring argument(std::size_t) const override { return text_; }
+
+ private:
+  std::string component_ = "TESSEL:zex";
+  std::string tag_ = "Warn";
+  fl::ustring text_;
+};
+
+/// The library goes on with the usual folder then, and a user would look for the selections in vain.
+void checkPreferences() {
+  namespace fs = fl::filesystem;
+  const fl::ustring named = fl::i18n::getenv("TESSEL_PREFDIR");
+  if (named.empty() || fs::is_directory(fs::status(named))) return;
+  host::services().showWarning(Warning(u"TESSEL_PREFDIR names no folder: '" + named +
+                                       u"'. Make it, or the usual preferences folder is used."));
+}
+
 void answer(const std::string& name, const std::vector<fl::ustring>& arguments, const Action& action) {
   if (arguments.size() == 1 && arguments.front() == u"--version") {
     std::printf("%s %s\n", name.c_str(), libzexcmd_version);
@@ -106,6 +133,7 @@ int runGuarded(const std::string& name, int count, char** values, const Action& 
   try {
     try {
       prepareEnvironment();
+      checkPreferences();
       answer(name, argumentsOf(count, values), action);
       return 0;
     } catch (...) {

@@ -7,8 +7,10 @@
 #include "build/compiler_versions.hpp"
 #include "build/loaded_product.hpp"
 #include "build/option_details.hpp"
+#include "build/shared_objects.hpp"
 #include "build/user_libraries.hpp"
 #include "cmd/messages/notices.hpp"
+#include "cmd/messages/raise.hpp"
 #include "cmd/messages/show.hpp"
 #include "compilers/ZexCompilers.hpp"
 #include "options/ZexOpt.hpp"
@@ -28,7 +30,9 @@ bool wantsClosingNotice(const ZexArgs& args) {
 ZexBuilder::ZexBuilder(const boost::shared_ptr<ZexArgs>& args, const boost::shared_ptr<ZexCompilers>& compilers)
     : args_(args), compilers_(compilers) {
   boost::shared_ptr<ZexOpt> option = compilers_->getSelectedOpt();
-  if (compilers_->needsUpgrade(*option)) option = compilers_->upgradeOpt(option);
+  if (compilers_->needsUpgrade(*option)) {
+    option = inWords([&] { return compilers_->upgradeOpt(option); });
+  }
 
   ZexVarResolver resolver(args_, compilers_);
   resolver.resolve(option);
@@ -42,6 +46,7 @@ ZexBuilder::ZexBuilder(const boost::shared_ptr<ZexArgs>& args, const boost::shar
   if (!args_->silent) printMessage(msg::Building(option->attribute(u"NAME")));
   checkGccVersion(*option, args_->calledFromHost);
   checkMinGwVersion(*option, args_->calledFromHost);
+  warnOfSharedObjects(*option, *args_);
   runCommands(option);
   if (wantsClosingNotice(*args_)) printMessage(msg::Complete());
   if (args_->calledFromHost && !args_->compileOnly) notifyPathManager(product.value_or(ustring()));

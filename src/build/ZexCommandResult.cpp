@@ -1,15 +1,26 @@
 #include "build/ZexCommandResult.hpp"
 
 #include <string>
+#include <system_error>
 
 #include "build/deprecated_names.hpp"
 #include "build/response_file.hpp"
 #include "cmd/messages/ZexConfigPerTVM.hpp"
 #include "cmd/messages/raise.hpp"
 #include "fl/filesystem/operations.hpp"
+#include "fl/i18n/strings.hpp"
 #include "platform/ShellCommand.hpp"
 
 namespace zex_cmd {
+
+namespace {
+
+ustring reasonOfSystem(std::int32_t error) {
+  return u"it was not started, and this is the system's error: " +
+         fl::i18n::to_ustring(std::system_category().message(error));
+}
+
+}  // namespace
 
 ZexCommandResult runBuildCommand(services::io::uout& output, const ZexBuildCommand& record,
                                  const ustring& tempDir) {
@@ -19,7 +30,9 @@ ZexCommandResult runBuildCommand(services::io::uout& output, const ZexBuildComma
   ZexCommandResult result;
   ustring standardOutput;
   ustring standardError;
-  result.exitCode = runShellCommand(run.command, standardOutput, standardError, run.calledFromHost);
+  const ShellStatus status = runShellCommand(run.command, standardOutput, standardError, run.calledFromHost);
+  result.exitCode = status.code;
+  result.ofSystem = status.ofSystem;
 
   // Status 0 without the expected file is a failure too.
   result.succeeded = result.exitCode == 0 && (run.output.empty() || fl::filesystem::exists(run.output));
@@ -38,7 +51,8 @@ void raiseCommandFailure(const ustring& commandText, const ZexCommandResult& res
   raiseDeprecatedName(result);
   if (!result.errorText.empty()) raiseTyped(msg::Error(result.errorText));
   const ustring program = commandText.substr(0, commandText.find(u' '));
-  raiseTyped(msg::ZexErrorCode(program, std::to_string(result.exitCode)));
+  const auto record = msg::ZexErrorCode(program, std::to_string(result.exitCode));
+  raiseTyped(result.ofSystem ? withNote(record, reasonOfSystem(result.exitCode)) : record);
 }
 
 }  // namespace zex_cmd

@@ -16,7 +16,7 @@ ustring words(const zexfile::Issue& issue) {
 }  // namespace
 
 std::optional<ustring> inspectBuiltFile(const ustring& output, bool verbose) {
-  const zexfile::Inspector inspector(fl::filesystem::absolute(output), false);
+  const zexfile::Inspector inspector(inWords([&] { return fl::filesystem::absolute(output); }), false);
   if (inspector.has_error()) raiseTyped(msg::Error(words(inspector.issues.front())));
   if (inspector.needs_upgrade() && verbose) {
     for (const zexfile::Issue& issue : inspector.issues) logVerbose(words(issue), true);

@@ -6,6 +6,7 @@
 #include "fl/filesystem/path_names.hpp"
 #include "fl/i18n/strings.hpp"
 #include "foundation/storage/vfs/toAbsoluteIRI.hpp"
+#include "platform/folders.hpp"
 #include "platform/quoting.hpp"
 
 namespace zex_cmd {
@@ -38,7 +39,7 @@ void releaseLoadedProduct(const ustring& product) {
   if (dispatcher == nullptr) return;
 
   const ustring plain = withoutQuotes(product);
-  const ustring inCurrentFolder = fs::detail::make_native_form(fs::get_current_path() + u"/" + plain);
+  const ustring inCurrentFolder = fs::detail::make_native_form(currentFolder() + u"/" + plain);
   for (LoadedFunctionSet* set : dispatcher->loadedFunctionSets()) {
     if (!isNativeExtension(set)) continue;
     const ustring path = loadedPath(*set);
@@ -54,7 +55,7 @@ void notifyPathManager(const ustring& product) {
   if (dispatcher == nullptr) return;
 
   ustring folder = fs::detail::extract_parent_path(fs::detail::make_native_form(withoutQuotes(product)));
-  if (folder.empty()) folder = fs::get_current_path();
+  if (folder.empty()) folder = currentFolder();
   const ustring resource = foundation::storage::vfs::toAbsoluteIRI(u"file", folder);
   Korvane::PathManagement::NotifyUpstreamPathEntriesOfPossibleSpecialSubfolderChanges(
       resource, dispatcher->GetPerTVMEventManager());

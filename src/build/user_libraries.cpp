@@ -11,6 +11,7 @@
 #include "options/ZexOpt.hpp"
 #include "platform/architecture.hpp"
 #include "platform/folders.hpp"
+#include "platform/quoting.hpp"
 #include "platform/tokens.hpp"
 #include "vars/ZexVarResolver.hpp"
 
@@ -72,7 +73,8 @@ void resolveLibraries(ZexOpt& option, const ZexVarResolver& resolver, const ZexA
     if (!found) continue;
     for (const ustring& key : keys) {
       if (!takesLibraries(shortName(key))) continue;
-      if (const auto value = option.value(key)) option.setValue(key, replacedAll(*value, switchText, *found));
+      if (const auto value = option.value(key))
+        option.setValue(key, replacedAll(*value, switchText, quoteInCommand(*found)));
     }
   }
 }
@@ -93,7 +95,7 @@ std::vector<ustring> librarySearchPath(const ZexOpt& option, const ZexArgs& args
     if (!value.empty()) append(path, splitTokens(value, u";"));
   }
   if (!args.libraryPaths.empty()) append(path, splitTokens(args.libraryPaths, u" "));
-  path.push_back(fl::filesystem::get_current_path());
+  path.push_back(currentFolder());
   return path;
 }
 

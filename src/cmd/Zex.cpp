@@ -8,6 +8,7 @@
 #include "cmd/ada.hpp"
 #include "cmd/help.hpp"
 #include "cmd/messages/ZexConfigPerTVM.hpp"
+#include "cmd/messages/raise.hpp"
 #include "compilers/ZexCompilers.hpp"
 #include "compilers/ZexSetup.hpp"
 #include "fl/i18n/strings.hpp"
@@ -27,7 +28,7 @@ void Zex::run(const std::vector<ustring>& arguments) {
   // The temporary folder goes away on every way out of this operation.
   boost::shared_ptr<ZexTempFile> temporaryFolder;
   if (!args_->setup) {
-    temporaryFolder = boost::make_shared<ZexTempFile>(false, args_->tempDir);
+    temporaryFolder = inWords([&] { return boost::make_shared<ZexTempFile>(false, args_->tempDir); });
     args_->tempDir = temporaryFolder->path();
   }
   compilers_ = boost::make_shared<ZexCompilers>(&args_);

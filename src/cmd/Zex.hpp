@@ -12,6 +12,7 @@ using fl::ustring;
 
 class ZexArgs;
 class ZexCompilers;
+class ZexOpt;
 
 /// Routes each command to help, the Ada builder, the compiler setup or a build.
 class Zex : public ZexCmdI {
@@ -29,6 +30,7 @@ class Zex : public ZexCmdI {
  private:
   void build();
   std::vector<CompilerRecord> recordsOf(const std::string& kind) const;
+  CompilerRecord recordOf(const boost::shared_ptr<ZexOpt>& opt) const;
 
   boost::shared_ptr<ZexArgs> args_;            ///< record of the latest command; empty until the first
   boost::shared_ptr<ZexCompilers> compilers_;  ///< of the latest command that got past parsing; points to args_

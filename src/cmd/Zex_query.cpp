@@ -7,6 +7,7 @@
 #include "options/ZexOpt.hpp"
 #include "platform/contains.hpp"
 #include "platform/letter_case.hpp"
+#include "vars/ZexVarResolver.hpp"
 
 namespace zex_cmd {
 
@@ -51,22 +52,28 @@ std::vector<CompilerRecord> Zex::queryCompilers(const std::string& language, con
   return recordsOf(lowerKind);
 }
 
+CompilerRecord Zex::recordOf(const boost::shared_ptr<ZexOpt>& opt) const {
+  // A selected file whose namesake of the catalogue is not installed is on no list of the setup command.
+  if (!opt->resolved) ZexVarResolver(args_, compilers_).resolve(opt);
+  return opt->detailsMap();
+}
+
 std::vector<CompilerRecord> Zex::recordsOf(const std::string& kind) const {
   std::vector<CompilerRecord> records;
-  const ZexOpt* best = nullptr;
+  boost::shared_ptr<ZexOpt> best;
   char16_t lowest = neverDefault;
   for (const auto& [path, opt] : compilers_->cachedOpts()) {
     if (kind == "default") {
       const char16_t priority = priorityOf(*opt);
       if (priority >= lowest) continue;
       lowest = priority;
-      best = opt.get();
+      best = opt;
     } else if (kind == "supported" || (kind == "selected" && opt->selected) ||
                (kind == "installed" && opt->installed)) {
-      records.push_back(opt->detailsMap());
+      records.push_back(recordOf(opt));
     }
   }
-  if (best != nullptr) records.push_back(best->detailsMap());
+  if (best) records.push_back(recordOf(best));
   return records;
 }
 

@@ -99,9 +99,9 @@ ZexOptList ZexCompilers::findSelectedOpts(const std::string& language, const ust
   }
   if (language.empty()) return {};
 
-  ZexOptList found = scanDirectory(fs::get_current_path(), language, args().arch, shortNameFilter, true);
-  if (found.empty()) {
-    found = scanDirectory(preferencesFolder(), language, args().arch, shortNameFilter, true);
+  ZexOptList found = scanDirectory(currentFolder(), language, args().arch, shortNameFilter, true);
+  if (const auto preferences = readablePreferencesFolder(); preferences && found.empty()) {
+    found = scanDirectory(*preferences, language, args().arch, shortNameFilter, true);
   }
   if (!found.empty()) found.front()->selected = true;
   return found;

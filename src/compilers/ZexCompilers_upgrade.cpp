@@ -22,12 +22,20 @@ bool ZexCompilers::needsUpgrade(const ZexOpt& opt) const {
   const ustring path = opt.attribute(u"ZEXOPT");
   const ustring name = fs::detail::make_native_form(fs::detail::extract_filename(path));
   // The name alone counts: a document of the current folder is treated as its twin in the preferences folder.
-  return existsInFolder(name, preferencesFolder()) && !opt.currentRelease;
+  const auto preferences = readablePreferencesFolder();
+  return preferences && existsInFolder(name, *preferences) && !opt.currentRelease;
 }
 
 boost::shared_ptr<ZexOpt> ZexCompilers::upgradeOpt(const boost::shared_ptr<ZexOpt>& opt) {
   boost::shared_ptr<ZexOpt> replacement = findReplacementOpt(opt);
-  writeSelectedFile(*replacement);
+  if (replacement->resolved) {
+    // What is written holds no values of this command.
+    const auto fresh = readOpt(opt->attribute(u"ZEXOPT"), {}, {});
+    writeSelectedFile(*fresh);
+    replacement->setZexoptPath(fresh->attribute(u"ZEXOPT"));
+  } else {
+    writeSelectedFile(*replacement);
+  }
   opt->selected = false;
   replacement->currentRelease = true;
   replacement->selected = true;

@@ -30,7 +30,10 @@ ZexSetup::ZexSetup(boost::shared_ptr<ZexArgs> args, boost::shared_ptr<ZexCompile
   if (bare) args_->languages = {"C"};  // whatever the parser put there
 
   const ZexOptList list = compilers_->listSetupOpts(kind);
-  for (const auto& opt : list) ZexVarResolver(args_, compilers_).resolve(opt);
+  for (const auto& opt : list) {
+    // The document of -f stands there once for each language.
+    if (!opt->resolved) ZexVarResolver(args_, compilers_).resolve(opt);
+  }
   if (!args_->xmlFile.empty()) {
     ustring path = args_->xmlFile;
     writeCompilerList(path, list);
@@ -90,7 +93,8 @@ void ZexSetup::configureCompiler(const boost::shared_ptr<ZexOpt>& opt, const ust
     compilers_->cacheOpt(chosen->attribute(u"ZEXOPT"), chosen);
     printConfigured(*chosen, *args_);
   } catch (const fs::FsysExceptionBase&) {
-    translateFilesystemError(directory);
+    const bool isPreference = args_->optionsFile.empty();
+    translateFilesystemError(directory, isPreference ? preferencesHint : u"");
   }
 }
 

@@ -1,9 +1,12 @@
 #include "options/OptionTree.hpp"
 
+#include <algorithm>
 #include <boost/property_tree/xml_parser.hpp>
 #include <deque>
 #include <ios>
+#include <iterator>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -12,6 +15,7 @@
 #include "fl/filesystem/operations.hpp"
 #include "fl/filesystem/streams.hpp"
 #include "fl/i18n/strings.hpp"
+#include "options/xml_depth.hpp"
 #include "platform/tokens.hpp"
 
 namespace zex_cmd {
@@ -43,14 +47,63 @@ void convertInto(To& to, const From& from, const Convert& convert) {
   }
 }
 
+[[noreturn]] void refuse(const std::string& why) {
+  throw std::runtime_error(why);
+}
+
+/// `depth` counts the levels that names with dots in them add, too.
+void requireSound(const pt::ptree& element, std::size_t depth) {
+  if (depth > deepestElement) refuse("its elements are nested too deeply");
+  if (element.data().find('\0') != std::string::npos) refuse("a value holds a character of the number zero");
+  for (const auto& [key, child] : element) {
+    const bool emptyPart = key.starts_with('.') || key.ends_with('.') || key.find("..") != std::string::npos;
+    if (emptyPart) refuse("the name '" + key + "' has a dot without a name beside it");
+    if (key.find('\0') != std::string::npos) refuse("a name holds a character of the number zero");
+    const auto levels = static_cast<std::size_t>(std::count(key.begin(), key.end(), '.')) + 1;
+    requireSound(child, depth + levels);
+  }
+}
+
+std::string textOf(const ustring& path) {
+  fs::basic_ifstream stream(path);
+  if (!stream) {
+    const fs::file_status status = fs::status(path);
+    if (!fs::exists(path)) refuse("there is no such file");
+    refuse(fs::is_directory(status) ? "it is a folder" : "the file cannot be read");
+  }
+  std::string text(std::istreambuf_iterator<char>(stream), {});
+  if (stream.bad()) refuse("the file cannot be read");
+  stream.close();
+  return text;
+}
+
+/// The reader's tree of a text. What could not be written and read again, or is a danger to all that walk the
+/// tree, is refused here.
+pt::ptree parsed(const std::string& text) {
+  if (xmlDepth(text) > deepestElement) refuse("its elements are nested too deeply");
+  pt::ptree tree;
+  try {
+    std::istringstream stream(text);
+    pt::read_xml(stream, tree, pt::xml_parser::trim_whitespace);
+  } catch (const pt::xml_parser_error& failure) {
+    refuse("line " + std::to_string(failure.line()) + ": " + failure.message());
+  }
+  requireSound(tree, 0);
+  return tree;
+}
+
 /// The library looks at the stream only after its last write, and a small document is in the buffer till then.
 void demandGood(const std::ostream& stream) {
   if (!stream) throw std::ios_base::failure("write failed");
 }
 
-void writeAll(std::ostream& stream, const OptionTree::Element& root) {
+pt::ptree narrowed(const OptionTree::Element& root) {
   pt::ptree narrow;
   convertInto(narrow, root, toDocument);
+  return narrow;
+}
+
+void writeAll(std::ostream& stream, const pt::ptree& narrow) {
   pt::write_xml(stream, narrow, pt::xml_writer_settings<std::string>('\t', 1, encoding));
   stream.flush();
   demandGood(stream);
@@ -99,18 +152,21 @@ OptionTree::Element* OptionTree::find(const ustring& path) {
 }
 
 void OptionTree::readXml(const ustring& path) {
-  fs::basic_ifstream stream(path);
-  pt::ptree narrow;
-  pt::read_xml(stream, narrow, pt::xml_parser::trim_whitespace);
-  convertInto(root, narrow, fromDocument);
-  stream.close();
+  convertInto(root, parsed(textOf(path)), fromDocument);
+}
+
+void OptionTree::requireReadable() const {
+  const pt::ptree narrow = narrowed(root);
+  std::ostringstream stream;
+  writeAll(stream, narrow);
+  if (parsed(stream.str()) != narrow) refuse("a value in it would read back as another one");
 }
 
 void OptionTree::writeXml(const ustring& path) const {
   fs::basic_ofstream stream(path);
   demandGood(stream);
   try {
-    writeAll(stream, root);
+    writeAll(stream, narrowed(root));
   } catch (...) {
     stream.close();
     removeTruncated(path);

@@ -26,6 +26,8 @@ class OptionTree {
 
   /// Throws whatever the file or its text gives cause for.
   void readXml(const ustring& path);
+  /// Throws, with words, where what `writeXml` writes would not read back the same.
+  void requireReadable() const;
   /// A write that fails half-way leaves no file.
   void writeXml(const ustring& path) const;
 

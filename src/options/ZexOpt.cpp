@@ -56,6 +56,8 @@ ZexOpt::ZexOpt(const ustring& path, const std::string& language, const ustring& 
     : calledFromHost(fromHost), tree_(std::make_unique<OptionTree>()) {
   try {
     tree_->readXml(path);
+  } catch (const std::exception& failure) {
+    raiseTyped(withNote(msg::InvalidXML(path), fl::i18n::to_ustring(failure.what())));
   } catch (...) {
     raiseTyped(msg::InvalidXML(path));
   }

@@ -36,6 +36,7 @@ class ZexOpt {
   bool selected = false;        ///< the chosen document of its list
   bool installed = false;       ///< every location variable was found on this machine
   bool currentRelease = false;  ///< stamped with this release
+  bool resolved = false;        ///< holds the final values of this command, and no references any more
 
   /// Reads the document and, if both filters let it pass, runs its location finder. An empty filter lets all pass;
   /// `language` must be upper case. A rejected document has an empty "ZEXOPT". Raises "TESSEL:zex:InvalidXML".

@@ -38,12 +38,23 @@ class FormerFile {
   ustring backup_;
 };
 
+void requireReadable(const OptionTree& tree, const ustring& path) {
+  try {
+    tree.requireReadable();
+  } catch (const std::exception& failure) {
+    raiseTyped(msg::XMLWriteFailedWithMsg(path, failure.what()));
+  }
+}
+
 }  // namespace
 
 void ZexOpt::writeSelected(const ustring& path) {
   std::optional<FormerFile> former;
   // Folders are compared as text, so a different spelling of the preferences folder is another folder.
-  if (names::remove_filename(path) == preferencesFolder()) {
+  const bool isPreference = names::remove_filename(path) == readablePreferencesFolder();
+  // Ahead of all else: what cannot be read back must not take the place of what can.
+  requireReadable(*tree_, path);
+  if (isPreference) {
     stampRelease();
     if (fl::filesystem::exists(path)) former.emplace(path);
   }
@@ -56,7 +67,7 @@ void ZexOpt::writeSelected(const ustring& path) {
   } catch (const boost::property_tree::ptree_error& failure) {
     raiseTyped(msg::XMLWriteFailedWithMsg(path, failure.what()));
   } catch (...) {
-    raiseTyped(msg::XMLWriteFailed(path));
+    raiseTyped(withNote(msg::XMLWriteFailed(path), isPreference ? preferencesHint : u""));
   }
 }
 

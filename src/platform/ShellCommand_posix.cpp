@@ -36,8 +36,8 @@ void cutShellPrefix(ustring& errors, const ustring& scriptPath) {
 
 }  // namespace
 
-std::int32_t runShellCommand(const ustring& text, ustring& standardOutput, ustring& standardError,
-                             bool calledFromHost) {
+ShellStatus runShellCommand(const ustring& text, ustring& standardOutput, ustring& standardError,
+                            bool calledFromHost) {
   standardOutput.clear();
   standardError.clear();
   ZexTempFile script(true, {});
@@ -56,7 +56,7 @@ std::int32_t runShellCommand(const ustring& text, ustring& standardOutput, ustri
   standardOutput = result.text + capturedText(output.path());
   standardError = capturedText(errors.path());
   cutShellPrefix(standardError, script.path());
-  return result.status;
+  return {result.status, !result.started};
 }
 
 }  // namespace zex_cmd

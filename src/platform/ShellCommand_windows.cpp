@@ -34,7 +34,7 @@ std::int32_t waitForEnd(const PROCESS_INFORMATION& process) {
   return static_cast<std::int32_t>(exitCode);
 }
 
-std::int32_t runProcess(ustring commandLine) {
+ShellStatus runProcess(ustring commandLine) {
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
   startup.dwFlags = STARTF_USESHOWWINDOW;
@@ -44,12 +44,12 @@ std::int32_t runProcess(ustring commandLine) {
   const BOOL started = CreateProcessW(nullptr, reinterpret_cast<wchar_t*>(commandLine.data()), nullptr, nullptr,
                                       FALSE, CREATE_NEW_CONSOLE, nullptr, nullptr, &startup, &process);
   if (started == 0) return static_cast<std::int32_t>(GetLastError());
-  return waitForEnd(process);
+  return {waitForEnd(process), false};
 }
 
 }  // namespace
 
-std::int32_t runShellCommand(const ustring& text, ustring& standardOutput, ustring& standardError,
+ShellStatus runShellCommand(const ustring& text, ustring& standardOutput, ustring& standardError,
                              bool /*calledFromHost*/) {
   standardOutput.clear();
   standardError.clear();
@@ -63,7 +63,7 @@ std::int32_t runShellCommand(const ustring& text, ustring& standardOutput, ustri
       u"( " + text + u" ) > " + quoteWhenNeeded(output.path()) + u" 2> " + quoteWhenNeeded(errors.path());
 
   host::services().stopIfInterrupted();
-  const std::int32_t result = runProcess(shellProgram() + u" /c " + enteringNetworkFolder() + line);
+  const ShellStatus result = runProcess(shellProgram() + u" /c " + enteringNetworkFolder() + line);
   // A tool that an interrupt ended must not pass for one that failed by itself.
   host::services().stopIfInterrupted();
   standardOutput = capturedText(output.path());

@@ -1,5 +1,6 @@
 #include "platform/captured_text.hpp"
 
+#include <algorithm>
 #include <string>
 
 #include "fl/filesystem/streams.hpp"
@@ -15,6 +16,8 @@ ustring capturedText(const ustring& path) {
     // Empty lines are dropped on purpose.
     if (!line.empty()) text.append(decode(line)).append(u"\n");
   }
+  // As other bytes that are no text: a zero would hide all that stands behind it.
+  std::replace(text.begin(), text.end(), u'\0', u'\uFFFD');
   return text;
 }
 

@@ -1,24 +1,50 @@
 #include "platform/folders.hpp"
 
+#include "cmd/messages/raise.hpp"
 #include "fl/filesystem/operations.hpp"
 #include "fl/filesystem/path_names.hpp"
 #include "fl/i18n/environment.hpp"
+#include "platform/paths.hpp"
 #include "settings/core/preferences.hpp"
 
 namespace zex_cmd {
 
 namespace fs = fl::filesystem;
 
-ustring preferencesFolder() {
+namespace {
+
+/// As the environment and the host tell it.
+ustring toldPreferencesFolder() {
   const ustring named = fl::i18n::getenv("TESSEL_PREFDIR");
+  if (!isCarried(named)) raiseTyped(withNote(msg::FileNameConversionFailed(), u"TESSEL_PREFDIR"));
   if (!named.empty() && fs::exists(named)) return named;
   return settings::core::getPreferencesDirectoryUStr(true);
+}
+
+}  // namespace
+
+ustring currentFolder() {
+  return inWords([] { return fs::get_current_path(); });
+}
+
+ustring preferencesFolder() {
+  return inWords([] { return toldPreferencesFolder(); });
+}
+
+std::optional<ustring> readablePreferencesFolder() {
+  try {
+    ustring folder = toldPreferencesFolder();
+    if (fs::is_directory(fs::status(folder))) return folder;
+  } catch (const fs::FsysExceptionBase&) {
+    // Nobody has preferences where there is no home.
+  }
+  return std::nullopt;
 }
 
 bool isInPreferencesFolder(const ustring& path) {
   ustring folder = fs::detail::make_native_form(path);
   if (!fs::is_directory(fs::status(folder))) folder = fs::detail::remove_filename(folder);
-  return folder == preferencesFolder();
+  return folder == readablePreferencesFolder();
 }
 
 bool existsInFolder(const ustring& name, const ustring& folder) {

@@ -1,13 +1,26 @@
 #pragma once
 
+#include <optional>
+
 #include "fl/ustring.hpp"
 
 namespace zex_cmd {
 
 using fl::ustring;
 
-/// The folder that "TESSEL_PREFDIR" names, if it is there; else the host's preferences folder.
+/// The current folder, for what names no path. Raises "TESSEL:zex:FileSystemException".
+ustring currentFolder();
+
+/// The folder that "TESSEL_PREFDIR" names, if it is there; else the host's preferences folder. Raises
+/// "TESSEL:zex:FileSystemException" where there is none.
 ustring preferencesFolder();
+
+/// The same for who only reads: nothing where there is no such folder, or none that can be looked into.
+std::optional<ustring> readablePreferencesFolder();
+
+/// What to say to a user whose preferences folder cannot be written.
+inline constexpr char16_t preferencesHint[] =
+    u"the preferences lie there; TESSEL_PREFDIR, XDG_CONFIG_HOME or HOME can name another place";
 
 /// Whether a path, or the folder of a path that is no folder, is the preferences folder. Compares texts exactly.
 bool isInPreferencesFolder(const ustring& path);

@@ -11,6 +11,9 @@ using fl::ustring;
 /// cannot carry through a shell.
 ustring fullPath(const ustring& path);
 
+/// Whether the characters of a path can be told to the system: bytes that are no text cannot.
+bool isCarried(const ustring& path);
+
 /// Raises what `fullPath` would, for a path that stays as it was told.
 void requireUsablePath(const ustring& path);
 

@@ -32,13 +32,25 @@ ustring folded(fl::ustring_view absolute) {
   return result.empty() ? u"/" : result;
 }
 
+/// The reason why a path that looks good by itself is none may lie in the folder that it starts from.
+ustring reasonOf(const ustring& path, const ustring& result) {
+  const bool tooLong = result.size() >= bufferUnits;
+  const bool ofFolder = !path.starts_with(u'/') && path.size() < bufferUnits && isCarriedByShell(path);
+  const ustring what =
+      ofFolder ? u"the current folder '" + fl::filesystem::get_current_path() + u"'" : ustring(u"it");
+  return what + (tooLong ? u" is too long: with the name behind it, a path has 511 characters at most"
+                         : u" holds a character that no command can carry: one of $ ` \" ; or a line feed");
+}
+
 }  // namespace
 
 ustring fullPath(const ustring& path) {
+  // A name that cannot be told to a tool would reach it as another one.
+  if (!isCarried(path)) raiseTyped(msg::FileNameConversionFailed());
   const bool isAbsolute = path.starts_with(u'/');
   const ustring result = folded(isAbsolute ? path : fl::filesystem::get_current_path() + u'/' + path);
   if (result.size() >= bufferUnits || !isCarriedByShell(path) || !isCarriedByShell(result)) {
-    raiseTyped(msg::Error(u"Invalid path " + path));
+    raiseTyped(withNote(msg::Error(u"Invalid path " + path), reasonOf(path, result)));
   }
   return result;
 }

@@ -32,6 +32,7 @@ void ZexVarResolver::resolve(const boost::shared_ptr<ZexOpt>& opt) {
   applyArgumentVariables(*opt);
   applyUserVariables(*opt);
   applyOptimizationVariables(*opt);
+  opt->resolved = true;
   expandAllVariables(*opt);
   if (!args_->setup) keepObjectInRemoveCommands(*opt);
 }

@@ -47,7 +47,10 @@ ustring ZexVarResolver::formatArgument(const ZexOpt& opt, const ustring& part,
                                        const std::string& formatterAttribute) const {
   // The plain rule would yield a command that the shell breaks.
   if (formatterAttribute.empty()) return quoteInCommand(part);
-  return applyFormatters(part, opt.requiredValue(detailPath(fl::i18n::to_ustring(formatterAttribute))));
+  // A define brings signs along that are meant for the shell; folders and libraries are names, as those above.
+  const bool isName = formatterAttribute != "CompilerDefineFormatter";
+  return applyFormatters(part, opt.requiredValue(detailPath(fl::i18n::to_ustring(formatterAttribute))),
+                         isName ? quoteInCommand : quoteWhenNeeded);
 }
 
 void ZexVarResolver::applyArgumentVariables(ZexOpt& opt) const {

@@ -29,11 +29,11 @@ ustring formatted(const ustring& pattern, const ustring& part) {
 
 }  // namespace
 
-ustring applyFormatters(const ustring& part, const ustring& formatters) {
+ustring applyFormatters(const ustring& part, const ustring& formatters, Quote quote) {
   if (part.starts_with(u"-U")) return part + u" ";
   ustring result;
   for (const ustring& pattern : splitTokens(formatters, u";")) {
-    result += quoteWhenNeeded(formatted(pattern, part)) + u" ";
+    result += quote(formatted(pattern, part)) + u" ";
   }
   return result;
 }

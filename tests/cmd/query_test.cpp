@@ -77,6 +77,15 @@ TEST_F(Query, GivesTheRecordsOfEachKindInKeyOrder) {
   EXPECT_EQ(query("c", "default"), "6") << "an empty priority is the least";
 }
 
+TEST_F(Query, ASelectedFileBesideACatalogueThatDoesNotFindItsCompilerIsResolved) {
+  Document selected;
+  selected.name = "3";
+  tree.scratch.write("prefs/" + zex_test::selection, selected.xml());
+  for (const CompilerRecord& record : zex.queryCompilers("c", "installed", architecture))
+    EXPECT_EQ(record.at(u"Location"), u".");
+  EXPECT_EQ(query("c", "installed"), "123");
+}
+
 TEST_F(Query, OddArchitectureWordsGiveNoOlderAnswer) {
   EXPECT_EQ(query("c", "installed"), "12");
   EXPECT_EQ(query("c", "installed", "help"), "");

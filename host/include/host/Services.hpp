@@ -23,6 +23,7 @@ namespace host {
 struct ShellResult {
   std::int32_t status = -1;  ///< exit status, 128 + n for death by signal n, or the system's error number
   fl::ustring text;          ///< what the line itself printed
+  bool started = true;       ///< false: nothing was run, and the status is the system's error number
 };
 
 /// All that depends on who hosts the driver. A program that embeds the driver derives its own and installs it;
@@ -56,7 +57,8 @@ class ZEXHOST_API Services {
   virtual ShellResult runShellLine(const fl::ustring& line, bool calledFromHost) = 0;
 
   /// Called ahead of and behind every command that the driver starts without `runShellLine`, as it does on
-  /// Windows. A host that was interrupted meanwhile throws, which ends the driver's command.
+  /// Windows, and where much reading may lie ahead. A host that was interrupted meanwhile throws, which ends the
+  /// driver's command.
   virtual void stopIfInterrupted() {}
 
   /// Calls a function of the host by name. The inputs stay the caller's. `outputs` has `outputCount` places, null

@@ -18,6 +18,10 @@ class ZEXHOST_API BaseMsgID {
   virtual std::size_t argumentCount() const = 0;
   virtual fl::ustring argument(std::size_t index) const = 0;
 
+  /// What the arguments have no room for, such as the reason of a failure, in words; mostly empty. The catalogue
+  /// puts it into the text; the pseudo-locale, which is for scripts, leaves it out.
+  virtual fl::ustring note() const { return {}; }
+
   /// Component, a colon and the tag.
   std::string identifier() const { return component() + ":" + tag(); }
 

@@ -45,13 +45,13 @@ bool selects(ustring_view pattern, ustring_view name) {
   return matches(name, pattern);
 }
 
-/// Sorted. Bytes that are no text are replaced, so that such an entry is shown but cannot be reached.
+/// Sorted. An entry whose bytes are no text is there, but no operation takes its name.
 std::vector<ustring> namesIn(const ustring& folder) {
   std::error_code reason;
   fs::directory_iterator at(host::standalone::nativePath(folder), reason);
   std::vector<ustring> names;
   while (!reason && at != fs::directory_iterator()) {
-    names.push_back(host::standalone::shownPath(at->path().filename()));
+    names.push_back(host::standalone::foundPath(at->path().filename()));
     at.increment(reason);
   }
   if (reason) host::standalone::raiseFileFailure(folder, reason);

@@ -12,8 +12,8 @@ namespace host::standalone {
 std::filesystem::path nativePath(const fl::ustring& path);
 fl::ustring pathText(const std::filesystem::path& path);
 
-/// For showing: what has no counterpart is replaced.
-fl::ustring shownPath(const std::filesystem::path& path);
+/// A name as the system gives it, never a failure: one without a counterpart is a text that no operation takes.
+fl::ustring foundPath(const std::filesystem::path& path);
 
 /// Nothing in place of a failure, for operations that do not throw.
 std::optional<std::filesystem::path> nativePathIfAny(const fl::ustring& path);

@@ -27,8 +27,8 @@ fl::ustring pathText(const std::filesystem::path& path) {
   return std::move(*text);
 }
 
-fl::ustring shownPath(const std::filesystem::path& path) {
-  return fl::i18n::to_ustring(path.native());
+fl::ustring foundPath(const std::filesystem::path& path) {
+  return fromBytes(path.native());
 }
 
 }  // namespace host::standalone

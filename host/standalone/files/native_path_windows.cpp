@@ -30,7 +30,7 @@ fl::ustring pathText(const std::filesystem::path& path) {
   return fromWide(path.native());
 }
 
-fl::ustring shownPath(const std::filesystem::path& path) {
+fl::ustring foundPath(const std::filesystem::path& path) {
   return fromWide(path.native());
 }
 

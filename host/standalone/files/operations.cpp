@@ -155,7 +155,7 @@ void temporary_file::close() {
 ustring get_current_path() {
   std::error_code reason;
   const fs::path current = fs::current_path(reason);
-  if (reason) raiseFileFailure(u".", reason);
+  if (reason) raiseFileFailure(u"the current folder", reason);
   return pathText(current);
 }
 

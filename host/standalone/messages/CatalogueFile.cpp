@@ -43,6 +43,11 @@ std::optional<Placeholder> placeholderAt(fl::ustring_view text) {
   return Placeholder{at + 1, index};
 }
 
+fl::ustring withoutZeros(fl::ustring text) {
+  std::replace(text.begin(), text.end(), u'\0', u'\uFFFD');
+  return text;
+}
+
 }  // namespace
 
 CatalogueFile::CatalogueFile(const fl::ustring& path) {
@@ -60,7 +65,8 @@ const fl::ustring* CatalogueFile::find(const std::string& identifier) const {
   return found == texts_.end() ? nullptr : &found->second;
 }
 
-fl::ustring filledIn(const fl::ustring& text, const std::vector<fl::ustring>& arguments) {
+fl::ustring filledIn(const fl::ustring& text, const std::vector<fl::ustring>& arguments, const fl::ustring& note) {
+  constexpr fl::ustring_view noteMark = u"{note}";
   static constexpr std::pair<fl::ustring_view, char16_t> escapes[] = {
       {u"\\n", u'\n'},
       {u"\\\\", u'\\'},
@@ -68,8 +74,14 @@ fl::ustring filledIn(const fl::ustring& text, const std::vector<fl::ustring>& ar
       {u"}}", u'}'},
   };
 
+  fl::ustring shownNote = note.empty() ? fl::ustring() : u" (" + withoutZeros(note) + u")";
   fl::ustring result;
   for (fl::ustring_view rest = text; !rest.empty();) {
+    if (rest.starts_with(noteMark)) {
+      result += std::exchange(shownNote, {});
+      rest.remove_prefix(noteMark.size());
+      continue;
+    }
     const auto* const escape = std::find_if(std::begin(escapes), std::end(escapes),
                                             [rest](const auto& entry) { return rest.starts_with(entry.first); });
     if (escape != std::end(escapes)) {
@@ -79,14 +91,14 @@ fl::ustring filledIn(const fl::ustring& text, const std::vector<fl::ustring>& ar
     }
     const auto placeholder = rest.front() == u'{' ? placeholderAt(rest) : std::nullopt;
     if (placeholder && placeholder->index < arguments.size()) {
-      result += arguments[placeholder->index];
+      result += withoutZeros(arguments[placeholder->index]);
       rest.remove_prefix(placeholder->length);
       continue;
     }
     result += rest.front();
     rest.remove_prefix(1);
   }
-  return result;
+  return result + shownNote;
 }
 
 }  // namespace host::standalone

@@ -24,7 +24,10 @@ class CatalogueFile {
 };
 
 /// The text with its marks replaced: `\n` by a line feed, `\\` by a backslash, `{0}`, `{1}`, … by the arguments,
-/// `{{` and `}}` by one brace. Arguments are taken as they are; any other mark stays.
-fl::ustring filledIn(const fl::ustring& text, const std::vector<fl::ustring>& arguments);
+/// `{{` and `}}` by one brace, `{note}` by the note in parentheses with a blank ahead, or by nothing where it is
+/// empty. A text without that mark gets the note at its end. Arguments are taken as they are but for zeros, which
+/// would hide what stands behind them; any other mark stays.
+fl::ustring filledIn(const fl::ustring& text, const std::vector<fl::ustring>& arguments,
+                     const fl::ustring& note = {});
 
 }  // namespace host::standalone

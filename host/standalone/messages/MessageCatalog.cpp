@@ -100,7 +100,7 @@ ustring MessageCatalog::get_message(const resource_core::BaseMsgID& record, cons
   const ustring installFolder = host::services().installFolder();
   for (const std::string& name : namesToTry(locale.name())) {
     if (const ustring* text = catalogueOf(installFolder, name).find(record.identifier()))
-      return host::standalone::filledIn(*text, argumentsOf(record));
+      return host::standalone::filledIn(*text, argumentsOf(record), record.note());
   }
   return inPseudoLocale(record);
 }

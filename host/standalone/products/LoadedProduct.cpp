@@ -8,6 +8,7 @@
 #include "korvane/TException.hpp"
 #include "standalone/products/SharedLibrary.hpp"
 #include "standalone/products/interface_check.hpp"
+#include "standalone/products/object_image.hpp"
 #include "texts/utf.hpp"
 
 namespace host::standalone {
@@ -23,7 +24,16 @@ fl::ustring completeName(const fl::ustring& path) {
   return path + u">" + fl::filesystem::detail::extract_stem(path);
 }
 
+bool isCutOff(const fl::ustring& path) {
+  FileWindow file(path);
+  return isElfCutOff(ObjectImage(file, {0, file.size()}));
+}
+
 std::unique_ptr<SharedLibrary> opened(const fl::ustring& path) {
+  if (isCutOff(path)) {
+    refuse("TESSEL:host:ProductNotLoadable",
+           u"'" + path + u"' could not be loaded: the file is cut off. Build it again.");
+  }
   try {
     return std::make_unique<SharedLibrary>(path);
   } catch (const std::runtime_error& failure) {

@@ -72,4 +72,8 @@ void addLoadedOfElf(const ObjectImage& image, LoadedParts& loaded);
 void addLoadedOfPe(const ObjectImage& image, LoadedParts& loaded);
 void addLoadedOfMachO(const ObjectImage& image, LoadedParts& loaded);
 
+/// Whether the file ends ahead of what its tables say is loaded of it. The system's loader does not look, and the
+/// process dies of it.
+bool isElfCutOff(const ObjectImage& image);
+
 }  // namespace host::standalone

@@ -74,22 +74,43 @@ void addSections(const ObjectImage& image, const ElfLayout& layout, const Table&
   }
 }
 
+struct Header {
+  const ElfLayout& layout;
+  std::endian order;
+  Table segments, sections;
+};
+
+Header headerOf(const ObjectImage& image) {
+  const Entry identification = image.entry(0, std::endian::little);
+  const ElfLayout& layout = identification[widthOfWords] == 1 ? narrow : wide;
+  const std::endian order = identification[byteOrder] == 2 ? std::endian::big : std::endian::little;
+  const Entry header = image.entry(0, order);
+  return {layout,
+          order,
+          {header[layout.segmentTable], header[layout.segmentStride], header[layout.segmentCount]},
+          {header[layout.sectionTable], header[layout.sectionStride], header[layout.sectionCount]}};
+}
+
 }  // namespace
 
 void addLoadedOfElf(const ObjectImage& image, LoadedParts& loaded) {
   if (!image.startsWith(magic)) return;
-  const Entry identification = image.entry(0, std::endian::little);
-  const ElfLayout& layout = identification[widthOfWords] == 1 ? narrow : wide;
-  const std::endian order = identification[byteOrder] == 2 ? std::endian::big : std::endian::little;
-
-  const Entry header = image.entry(0, order);
-  const Table segments{header[layout.segmentTable], header[layout.segmentStride], header[layout.segmentCount]};
-  addSegments(image, layout, segments, order, loaded);
-  if (!loaded.empty()) return;
-
+  const Header header = headerOf(image);
+  addSegments(image, header.layout, header.segments, header.order, loaded);
   // An object that is not linked yet has sections only.
-  const Table sections{header[layout.sectionTable], header[layout.sectionStride], header[layout.sectionCount]};
-  addSections(image, layout, sections, order, loaded);
+  if (loaded.empty()) addSections(image, header.layout, header.sections, header.order, loaded);
+}
+
+bool isElfCutOff(const ObjectImage& image) {
+  if (!image.startsWith(magic)) return false;
+  const Header header = headerOf(image);
+  for (std::uint64_t i = 0; i < header.segments.count; ++i) {
+    const Entry segment = header.segments.entry(image, i, header.order);
+    const std::uint64_t offset = segment[header.layout.segmentOffset], size = segment[header.layout.segmentSize];
+    const bool isWhole = offset <= image.size() && size <= image.size() - offset;
+    if (segment[header.layout.segmentType] == loadedSegment && !isWhole) return true;
+  }
+  return false;
 }
 
 }  // namespace host::standalone

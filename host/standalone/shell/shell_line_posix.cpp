@@ -147,8 +147,8 @@ int startLine(const std::string& line, const SpawnSettings& settings, pid_t& chi
   return isStarted ? 0 : startBy(posix_spawn, "/bin/sh", {"sh", "-c", "--", line}, settings, child);
 }
 
-ShellResult withoutText(int status) {
-  return {status, {}};
+ShellResult notStarted(int status) {
+  return {status, {}, false};
 }
 
 int statusAfterDeathBy(int signal) {
@@ -180,13 +180,13 @@ ShellResult run(Services& services, const std::string& line) {
   services.stopIfInterrupted();
 
   const CaptureFile output;
-  if (output.error() != 0) return withoutText(output.error());
+  if (output.error() != 0) return notStarted(output.error());
   const CaptureFile errors;
-  if (errors.error() != 0) return withoutText(errors.error());
+  if (errors.error() != 0) return notStarted(errors.error());
 
   const SpawnSettings settings(output, errors, forwarding);
   pid_t child = 0;
-  if (const int error = startLine(line, settings, child); error != 0) return withoutText(error);
+  if (const int error = startLine(line, settings, child); error != 0) return notStarted(error);
 
   forwarding.to(child);
   const int waitError = waitForEnd(child);
@@ -197,7 +197,7 @@ ShellResult run(Services& services, const std::string& line) {
 
   std::string text = output.content();
   if (status != 0) text += errors.content();
-  return {status, fl::i18n::to_ustring(text)};
+  return {status, fl::i18n::to_ustring(text), true};
 }
 
 }  // namespace
@@ -205,8 +205,8 @@ ShellResult run(Services& services, const std::string& line) {
 ShellResult runLineOfShell(Services& services, const fl::ustring& line) {
   // A line with a replaced or cut-off character would be another command.
   const std::optional<std::string> bytes = toUtf8Exactly(line);
-  if (!bytes) return withoutText(EILSEQ);
-  if (bytes->find('\0') != std::string::npos) return withoutText(EINVAL);
+  if (!bytes) return notStarted(EILSEQ);
+  if (bytes->find('\0') != std::string::npos) return notStarted(EINVAL);
 
   static std::mutex oneAtATime;
   const std::lock_guard lock(oneAtATime);

@@ -4,6 +4,7 @@
 
 #include "build/temporary/unique_numbers.hpp"
 #include "cmd/messages/ZexConfigPerTVM.hpp"
+#include "cmd/messages/raise.hpp"
 #include "cmd/messages/verbose_lines.hpp"
 #include "fl/filesystem/exceptions.hpp"
 #include "fl/filesystem/operations.hpp"
@@ -31,7 +32,9 @@ ustring firstSetFolder() {
 
 ustring systemTempDirectory() {
   const ustring folder = firstSetFolder();
-  if (!fs::is_directory(fs::status(folder))) fs::create_private_directories(folder);
+  inWords([&] {
+    if (!fs::is_directory(fs::status(folder))) fs::create_private_directories(folder);
+  });
   return folder;
 }
 

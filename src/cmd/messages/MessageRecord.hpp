@@ -33,10 +33,21 @@ class MessageRecord : public resource_core::BaseMsgID {
     return fl::i18n::to_ustring(std::get<std::string>(value));
   }
 
+  ustring note() const override { return note_; }
+  void setNote(const ustring& note) { note_ = note; }
+
  private:
   std::vector<Argument> arguments_;
   std::string component_;
   std::string tag_;
+  ustring note_;
 };
+
+/// The record with words behind its arguments.
+template <class Record>
+Record withNote(Record record, const ustring& note) {
+  record.setNote(note);
+  return record;
+}
 
 }  // namespace zex_cmd

@@ -2,6 +2,7 @@
 
 #include "cmd/messages/Exception.hpp"
 #include "cmd/messages/errors.hpp"
+#include "fl/filesystem/exceptions.hpp"
 #include "zx/errors.hpp"
 
 namespace zex_cmd {
@@ -26,6 +27,21 @@ template <class Tag>
 
 /// Turns the file system failure in flight into a message about `path`. Call it inside a catch clause for
 /// `fl::filesystem::FsysExceptionBase`; a type that it does not know keeps flying.
-[[noreturn]] void translateFilesystemError(const ustring& path);
+/// `hint` is put behind the reason.
+[[noreturn]] void translateFilesystemError(const ustring& path, const ustring& hint = {});
+
+/// Raises the file system failure in flight with its own words, as "TESSEL:zex:FileSystemException": where no path
+/// was asked for. A name that cannot be converted stays "TESSEL:zex:FileNameConversionFailed".
+[[noreturn]] void raiseFilesystemFailure();
+
+/// What an action gives; its file system failures as above.
+template <class Action>
+auto inWords(Action&& action) {
+  try {
+    return action();
+  } catch (const fl::filesystem::FsysExceptionBase&) {
+    raiseFilesystemFailure();
+  }
+}
 
 }  // namespace zex_cmd

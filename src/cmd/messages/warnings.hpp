@@ -20,6 +20,9 @@ inline MessageRecord FortranLargeArrayDimsWarn_link() {
 inline MessageRecord IgnoreOutput() {
   return {"TESSEL:zex", "IgnoreOutput", {}};
 }
+inline MessageRecord SameObject(const ustring& first, const ustring& second) {
+  return {"TESSEL:zex", "SameObject", {first, second}};
+}
 inline MessageRecord GccVersion(const ustring& found, const std::string& supported) {
   return {"TESSEL:zex", "GccVersion", {found, supported}};
 }
