@@ -129,6 +129,21 @@ TEST_F(Builder, HeaderOrderMistakesAreTriedOnceMoreInCompilesAlone) {
   EXPECT_THAT(tree.host.output, HasSubstr("TESSEL:zex:SFunctionMsg\n"));
 }
 
+TEST_F(Builder, RenewsTheSelectionAndFindsLibrariesAndLocksAheadOfItsCommands) {
+  document.release = "R2017a";
+  document.details = "LibrarySearchPath=\"libs\"";
+  tree.scratch.write("prefs/" + zex_test::selection, document.xml());
+  document.release.clear();
+  EXPECT_THAT(build({u"a.c", u"-lmissing"}), testing::StartsWith("TESSEL:zex:LibNotFound("));
+  EXPECT_THAT(tree.scratch.names("prefs"), testing::ElementsAre(zex_test::selection, zex_test::selectionBackup));
+  zex_test::RecordedSet loaded(tree.scratch.path("a.zexa64") + u">zexFunction", 1);
+  zex_test::RecordingDispatcher dispatcher;
+  dispatcher.table = {&loaded};
+  tree.host.dispatch = &dispatcher;
+  EXPECT_EQ(build({u"a.c"}), "TESSEL:zex:Locked(\"a.zexa64\")");
+  EXPECT_EQ(tree.toolLog(), "");
+}
+
 TEST_F(Builder, PathManagerHearsOfProductsOfTheHostOnly) {
   zex_test::RecordingDispatcher dispatcher;
   tree.host.dispatch = &dispatcher;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "cmd/ZexCmdFactory.hpp"
+#include "cmd/messages/ZexConfigPerTVM.hpp"
 #include "support/InstalledTree.hpp"
 
 namespace zex_cmd {
@@ -33,7 +34,9 @@ TEST_F(Commands, AFailureLeavesNoTraceInTheNextCommand) {
   EXPECT_TRUE(tree.scratch.names("tmp").empty());
   tree.toolLog();
   tree.host.output.clear();
+  ZexConfigPerTVM::current().locationTrace = "of a former search";
   EXPECT_EQ(run({u"a.c"}), "no error");
+  EXPECT_EQ(ZexConfigPerTVM::current().locationTrace, "");
   EXPECT_EQ(tree.toolLog().find("-g"), std::string::npos);
   EXPECT_EQ(tree.host.output, "TESSEL:zex:Building(\"Fake C\")\nTESSEL:zex:Complete\n");
 }

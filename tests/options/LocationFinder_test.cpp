@@ -54,6 +54,7 @@ TEST_F(LocationFinderTest, AConditionTreeGivesAVariableOrItsDiagnostics) {
       {"<anyName><dirExists name='tools'/><fileExists name='no'/><dirExists name='real'/></anyName>", "-", ""},
       // A missing required attribute skips the element's own diagnostic.
       {"<or diagnostic='outer'><fileExists diagnostic='inner'/></or>", "-", "outer\n"},
+      {"<hklmExists name='n' diagnostic='d'/>", "-", ""},
       {"<hklmExists path='p' name='n' diagnostic='d'/>", "-", "d\n"},
   };
   for (const Case& test : cases) {

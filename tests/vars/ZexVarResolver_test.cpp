@@ -65,12 +65,12 @@ TEST_F(ZexVarResolverTest, FilesFollowSourcesAndObjects) {
           "DEF=\"/tmp/t/it's b.def\"", "EXE=\"it's b.zexa64\"", "MANIFEST=\"it's b.zexa64.manifest\"",
           "SRCROOT=/s/sub/it's b", "TEMPNAME=it's b", "EXEDIR=", "TESSELROOT=/install", "ARCH=glnxa64"});
 
-  args->sources = {u"/s/x.y.c", u"/install/v.c"};
+  args->sources = {u"/s/x.y|.c", u"/install/v.c"};
   args->objects = {u"sub/o.o", u"p q.o"};
   args->apiVersionSourceAdded = true;
   resolveWith("");
-  expect({"SRC=\"/s/x.y.c\";\"/install/v.c\"", "OBJ=/tmp/t/x.y.o;/tmp/t/v.o", "EXENAME=x.y",
-          "OBJS=/tmp/t/x.y.o /tmp/t/v.o \"sub/o.o\" \"p q.o\""});
+  expect({"SRC=\"/s/x.y|.c\";\"/install/v.c\"", "OBJ=\"/tmp/t/x.y|.o\";/tmp/t/v.o", "EXENAME=x.y|",
+          "OBJS=\"/tmp/t/x.y|.o\" /tmp/t/v.o \"sub/o.o\" \"p q.o\""});
 
   args->sources.erase(args->sources.begin());
   resolveWith("");
