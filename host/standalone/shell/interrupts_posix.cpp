@@ -1,6 +1,7 @@
 #include <atomic>
 #include <csignal>
 
+#include "standalone/Interrupted.hpp"
 #include "standalone/shell/SignalForwarding.hpp"
 #include "standalone/shell/interrupts.hpp"
 

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "standalone/Interrupted.hpp"
 #include "standalone/shell/interrupts.hpp"
 
 namespace host::standalone {
