@@ -19,6 +19,11 @@ bool isCarriedByShell(const ustring& path) {
 
 }  // namespace
 
+bool isCarried(const ustring& /*path*/) {
+  // Names are of the same units as texts here.
+  return true;
+}
+
 ustring fullPath(const ustring& path) {
   std::array<wchar_t, 512> buffer{};
   const auto* wide = reinterpret_cast<const wchar_t*>(path.c_str());

@@ -113,7 +113,7 @@ class SpawnSettings {
 };
 
 ShellResult notStarted(int status) {
-  return {status, {}, false};
+  return {ShellStatus::notStarted(status), {}};
 }
 
 int statusAfterDeathBy(int signal) {
@@ -165,7 +165,7 @@ ShellResult run(StandaloneServices& services, std::string line) {
 
   std::string text = output.content();
   if (status != 0) text += errors.content();
-  return {status, fl::i18n::to_ustring(text), true};
+  return {status, fl::i18n::to_ustring(text)};
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "fl/ustring.hpp"
+#include "host/visibility.hpp"
 
 namespace host::standalone {
 
@@ -13,7 +14,7 @@ std::string toUtf8(fl::ustring_view text);
 fl::ustring fromUtf8(std::string_view text);
 
 /// Every byte comes back as it was: one that is no part of UTF-8 becomes half a character, which no text holds.
-fl::ustring fromBytes(std::string_view bytes);
+ZEXHOST_API fl::ustring fromBytes(std::string_view bytes);
 std::string toBytes(fl::ustring_view text);
 
 /// Nothing where the text is not well formed: a name with a replacement in it would be a different name.
