@@ -1,4 +1,5 @@
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -39,6 +40,9 @@ bool fitForCommands(const std::string& folder) {
 }  // namespace
 
 void prepareEnvironment() {
+  // A file that may not grow is a failure of writing like others, with words; tools have the default action.
+  std::signal(SIGXFSZ, SIG_IGN);
+
   const std::string temporary = temporaryFolder();
   if (temporary.empty() || !fitForCommands(temporary)) setVariable("TMPDIR", P_tmpdir);
 

@@ -33,7 +33,8 @@ fl::ustring homeFolder() {
   if (fl::ustring home = fl::i18n::getenv("HOME"); !home.empty()) return home;
   const passwd* const account = getpwuid(getuid());
   if (account == nullptr || account->pw_dir == nullptr || *account->pw_dir == '\0')
-    throw fl::filesystem::PathNotFound("no home folder for the preferences: HOME is not set");
+    throw fl::filesystem::PathNotFound(
+        "no home folder for the preferences: set TESSEL_PREFDIR, XDG_CONFIG_HOME or HOME");
   return fl::i18n::to_ustring(account->pw_dir);
 }
 

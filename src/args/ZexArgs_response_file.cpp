@@ -15,6 +15,15 @@ namespace zex_cmd {
 
 namespace {
 
+/// A path with a replaced byte in it would be another one: with half a character, it is one that is refused.
+ustring decoded(const std::string& line) {
+  ustring text = fl::i18n::codecvt_string_to_ustring()(line);
+  constexpr char16_t halfCharacter = 0xDCFF;
+  if (fl::i18n::codecvt_ustring_to_string()(text) != line)
+    std::replace(text.begin(), text.end(), u'\uFFFD', halfCharacter);
+  return text;
+}
+
 /// Tokens do not span lines, and there are no comments.
 std::vector<ustring> tokensOfFile(const ustring& path) {
   // A missing path has the status of no regular file.
@@ -22,12 +31,11 @@ std::vector<ustring> tokensOfFile(const ustring& path) {
   fl::filesystem::basic_ifstream stream(path);
   if (!stream.is_open()) raiseTyped(msg::FileCannotOpen(path));
 
-  const fl::i18n::codecvt_string_to_ustring decode;
   std::vector<ustring> result;
   for (std::string line; std::getline(stream, line);) {
     // Files that were written on another system end their lines with one.
     if (line.ends_with('\r')) line.pop_back();
-    std::vector<ustring> pieces = splitTokens(decode(line), u" ");
+    std::vector<ustring> pieces = splitTokens(decoded(line), u" ");
     std::move(pieces.begin(), pieces.end(), std::back_inserter(result));
   }
   return result;

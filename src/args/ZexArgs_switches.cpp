@@ -49,6 +49,12 @@ enum class Verdict {
   Unknown,  ///< no later test is asked
 };
 
+/// A folder as a command names it.
+ustring quotedFolder(const ustring& path) {
+  if (!isCarried(path)) raiseTyped(withNote(msg::FileNameConversionFailed(), path));
+  return quoteAlways(nativeFolderForm(path));
+}
+
 bool isRelease(const std::string& digits) {
   char* end = nullptr;
   const long value = std::strtol(digits.c_str(), &end, 16);
@@ -115,7 +121,7 @@ Verdict takeDebugOrInclude(ZexArgs& args, Switch& item) {
   if (item.isLetterAlone() && item.exactLetter() == u'g') {
     args.debug = true;
   } else if (!item.isLetterAlone() && item.exactLetter() == u'I') {
-    args.includes += u" -I" + quoteAlways(nativeFolderForm(item.behindLetter()));
+    args.includes += u" -I" + quotedFolder(item.behindLetter());
   } else {
     return Verdict::NotMine;
   }
@@ -130,7 +136,7 @@ Verdict takeL(ZexArgs& args, Switch& item) {
   } else if (item.isLetterAlone()) {
     return Verdict::Unknown;
   } else if (item.exactLetter() == u'L') {
-    args.libraryPaths += u" " + quoteAlways(nativeFolderForm(item.behindLetter()));
+    args.libraryPaths += u" " + quotedFolder(item.behindLetter());
   } else {
     args.addLibrary(item.behindLetter(), true);
   }

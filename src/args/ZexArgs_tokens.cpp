@@ -80,7 +80,10 @@ class TokenWalk {
     // Two files that name each other twice take as good as forever.
     host::services().stopIfInterrupted();
     // A file that is open already would be read without an end.
-    if (!open_.insert(token).second) raiseTyped(msg::FileCannotOpen(fullPath(withoutQuotes(token.substr(1)))));
+    if (!open_.insert(token).second) {
+      raiseTyped(withNote(msg::FileCannotOpen(fullPath(withoutQuotes(token.substr(1)))),
+                          u"it names itself, directly or through others"));
+    }
     lists_.push_back({token, args_.readResponseFile(token)});
   }
 

@@ -30,9 +30,9 @@ ZexCommandResult runBuildCommand(services::io::uout& output, const ZexBuildComma
   ZexCommandResult result;
   ustring standardOutput;
   ustring standardError;
-  const ShellStatus status = runShellCommand(run.command, standardOutput, standardError, run.calledFromHost);
-  result.exitCode = status.code;
-  result.ofSystem = status.ofSystem;
+  const host::ShellStatus status = runShellCommand(run.command, standardOutput, standardError, run.calledFromHost);
+  result.exitCode = status;
+  result.started = status.started();
 
   // Status 0 without the expected file is a failure too.
   result.succeeded = result.exitCode == 0 && (run.output.empty() || fl::filesystem::exists(run.output));
@@ -52,7 +52,7 @@ void raiseCommandFailure(const ustring& commandText, const ZexCommandResult& res
   if (!result.errorText.empty()) raiseTyped(msg::Error(result.errorText));
   const ustring program = commandText.substr(0, commandText.find(u' '));
   const auto record = msg::ZexErrorCode(program, std::to_string(result.exitCode));
-  raiseTyped(result.ofSystem ? withNote(record, reasonOfSystem(result.exitCode)) : record);
+  raiseTyped(result.started ? record : withNote(record, reasonOfSystem(result.exitCode)));
 }
 
 }  // namespace zex_cmd

@@ -10,7 +10,7 @@ namespace zex_cmd {
 /// How one command ended.
 struct ZexCommandResult {
   std::int32_t exitCode = -1;
-  bool ofSystem = false;  ///< the command was not run, and the exit code is the system's error number
+  bool started = true;  ///< false: nothing was run, and the exit code is the system's error number
   bool succeeded = false;
   ustring errorText;  ///< what the tool printed; filled on failure only
 };

@@ -36,8 +36,8 @@ void cutShellPrefix(ustring& errors, const ustring& scriptPath) {
 
 }  // namespace
 
-ShellStatus runShellCommand(const ustring& text, ustring& standardOutput, ustring& standardError,
-                            bool calledFromHost) {
+host::ShellStatus runShellCommand(const ustring& text, ustring& standardOutput, ustring& standardError,
+                                  bool calledFromHost) {
   standardOutput.clear();
   standardError.clear();
   ZexTempFile script(true, {});
@@ -46,17 +46,18 @@ ShellStatus runShellCommand(const ustring& text, ustring& standardOutput, ustrin
 
   // All three ahead of the script's content, which tells the names of the other two.
   for (ZexTempFile* file : {&script, &output, &errors}) {
-    if (const int failure = file->makeFile(); failure != 0) return failure;
+    if (const int failure = file->makeFile(); failure != 0) return host::ShellStatus::notStarted(failure);
   }
   // Half a command could do anything.
-  if (const int failure = writeScript(script, text, output, errors); failure != 0) return failure;
+  if (const int failure = writeScript(script, text, output, errors); failure != 0)
+    return host::ShellStatus::notStarted(failure);
 
   const host::ShellResult result =
       host::services().runShellLine(u"sh " + quoteWhenNeeded(script.path()), calledFromHost);
   standardOutput = result.text + capturedText(output.path());
   standardError = capturedText(errors.path());
   cutShellPrefix(standardError, script.path());
-  return {result.status, !result.started};
+  return result.status;
 }
 
 }  // namespace zex_cmd

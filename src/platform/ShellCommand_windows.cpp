@@ -34,7 +34,7 @@ std::int32_t waitForEnd(const PROCESS_INFORMATION& process) {
   return static_cast<std::int32_t>(exitCode);
 }
 
-ShellStatus runProcess(ustring commandLine) {
+host::ShellStatus runProcess(ustring commandLine) {
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
   startup.dwFlags = STARTF_USESHOWWINDOW;
@@ -43,27 +43,27 @@ ShellStatus runProcess(ustring commandLine) {
   // A console of its own that stays hidden: console tools would open a window over the host otherwise.
   const BOOL started = CreateProcessW(nullptr, reinterpret_cast<wchar_t*>(commandLine.data()), nullptr, nullptr,
                                       FALSE, CREATE_NEW_CONSOLE, nullptr, nullptr, &startup, &process);
-  if (started == 0) return static_cast<std::int32_t>(GetLastError());
-  return {waitForEnd(process), false};
+  if (started == 0) return host::ShellStatus::notStarted(static_cast<std::int32_t>(GetLastError()));
+  return waitForEnd(process);
 }
 
 }  // namespace
 
-ShellStatus runShellCommand(const ustring& text, ustring& standardOutput, ustring& standardError,
-                             bool /*calledFromHost*/) {
+host::ShellStatus runShellCommand(const ustring& text, ustring& standardOutput, ustring& standardError,
+                                  bool /*calledFromHost*/) {
   standardOutput.clear();
   standardError.clear();
   ZexTempFile output(true, {});
   ZexTempFile errors(true, {});
   // Ahead of the line, which tells their names.
   for (ZexTempFile* file : {&output, &errors}) {
-    if (const int failure = file->makeFile(); failure != 0) return failure;
+    if (const int failure = file->makeFile(); failure != 0) return host::ShellStatus::notStarted(failure);
   }
   const ustring line =
       u"( " + text + u" ) > " + quoteWhenNeeded(output.path()) + u" 2> " + quoteWhenNeeded(errors.path());
 
   host::services().stopIfInterrupted();
-  const ShellStatus result = runProcess(shellProgram() + u" /c " + enteringNetworkFolder() + line);
+  const host::ShellStatus result = runProcess(shellProgram() + u" /c " + enteringNetworkFolder() + line);
   // A tool that an interrupt ended must not pass for one that failed by itself.
   host::services().stopIfInterrupted();
   standardOutput = capturedText(output.path());

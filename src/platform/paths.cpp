@@ -3,7 +3,6 @@
 #include <boost/regex.hpp>
 
 #include "fl/filesystem/path_names.hpp"
-#include "fl/i18n/strings.hpp"
 
 namespace zex_cmd {
 
@@ -28,10 +27,6 @@ void removeMatches(ustring& text, const boost::wregex& expression) {
 }
 
 }  // namespace
-
-bool isCarried(const ustring& path) {
-  return fl::i18n::codecvt_string_to_ustring("UTF-8")(fl::i18n::codecvt_ustring_to_string("UTF-8")(path)) == path;
-}
 
 void requireUsablePath(const ustring& path) {
   fullPath(path);

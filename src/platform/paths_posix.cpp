@@ -2,6 +2,7 @@
 
 #include "cmd/messages/raise.hpp"
 #include "fl/filesystem/operations.hpp"
+#include "fl/i18n/strings.hpp"
 #include "platform/paths.hpp"
 #include "platform/shell_conventions.hpp"
 
@@ -44,9 +45,13 @@ ustring reasonOf(const ustring& path, const ustring& result) {
 
 }  // namespace
 
+bool isCarried(const ustring& path) {
+  return fl::i18n::to_ustring(fl::i18n::to_string(path)) == path;
+}
+
 ustring fullPath(const ustring& path) {
   // A name that cannot be told to a tool would reach it as another one.
-  if (!isCarried(path)) raiseTyped(msg::FileNameConversionFailed());
+  if (!isCarried(path)) raiseTyped(withNote(msg::FileNameConversionFailed(), path));
   const bool isAbsolute = path.starts_with(u'/');
   const ustring result = folded(isAbsolute ? path : fl::filesystem::get_current_path() + u'/' + path);
   if (result.size() >= bufferUnits || !isCarriedByShell(path) || !isCarriedByShell(result)) {

@@ -9,6 +9,11 @@
 
 namespace zex_cmd {
 
+bool isCarried(const ustring& /*path*/) {
+  // Names are of the same units as texts here.
+  return true;
+}
+
 ustring fullPath(const ustring& path) {
   std::array<wchar_t, 512> buffer{};
   const auto* wide = reinterpret_cast<const wchar_t*>(path.c_str());

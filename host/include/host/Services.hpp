@@ -19,11 +19,27 @@ class KeyedStore;
 
 namespace host {
 
+/// Exit status of what was run, 128 + n for death by signal n; or, where nothing could be, the system's error
+/// number.
+class ShellStatus {
+ public:
+  ShellStatus(std::int32_t exitStatus) : number_(exitStatus) {}  // NOLINT(google-explicit-constructor)
+  static ShellStatus notStarted(std::int32_t systemError) { return {systemError, false}; }
+
+  operator std::int32_t() const { return number_; }  // NOLINT(google-explicit-constructor)
+  bool started() const { return started_; }
+
+ private:
+  ShellStatus(std::int32_t number, bool started) : number_(number), started_(started) {}
+
+  std::int32_t number_;
+  bool started_ = true;
+};
+
 /// How a shell line ended.
 struct ShellResult {
-  std::int32_t status = -1;  ///< exit status, 128 + n for death by signal n, or the system's error number
-  fl::ustring text;          ///< what the line itself printed
-  bool started = true;       ///< false: nothing was run, and the status is the system's error number
+  ShellStatus status = -1;
+  fl::ustring text;  ///< what the line itself printed
 };
 
 /// All that depends on who hosts the driver. A program that embeds the driver derives its own and installs it;

@@ -148,7 +148,7 @@ int startLine(const std::string& line, const SpawnSettings& settings, pid_t& chi
 }
 
 ShellResult notStarted(int status) {
-  return {status, {}, false};
+  return {ShellStatus::notStarted(status), {}};
 }
 
 int statusAfterDeathBy(int signal) {
@@ -197,7 +197,7 @@ ShellResult run(Services& services, const std::string& line) {
 
   std::string text = output.content();
   if (status != 0) text += errors.content();
-  return {status, fl::i18n::to_ustring(text), true};
+  return {status, fl::i18n::to_ustring(text)};
 }
 
 }  // namespace
