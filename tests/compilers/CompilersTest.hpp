@@ -14,6 +14,7 @@
 namespace zex_cmd {
 
 using zex_test::catalogue;
+using zex_test::compiler;
 using zex_test::Document;
 using zex_test::failureOf;
 using zex_test::InstalledTree;
@@ -23,17 +24,6 @@ using zex_test::selectionBackup;
 /// An installed tree, and documents to put into it.
 class CompilersTest : public testing::Test {
  protected:
-  static Document compiler(const std::string& name, const std::string& priority, bool installed = true,
-                           const std::string& language = "C") {
-    Document document;
-    document.name = name;
-    document.shortName = "short" + name;
-    document.priority = priority;
-    document.installed = installed;
-    document.language = language;
-    return document;
-  }
-
   static std::string nameOf(const ZexOpt& opt) { return zex_test::utf8(opt.attribute(u"NAME")); }
 
   /// Names of a list, a "*" before those that are `selected`.

@@ -3,81 +3,57 @@
 namespace zex_cmd {
 namespace {
 
-using testing::StartsWith;
-
 class Discovery : public CompilersTest {
  protected:
+  /// Names of what a scan of the catalogue yields, or the failure without its arguments.
+  std::string scanned(const ustring& shortName = {}, bool onlyNew = false) {
+    std::string names;
+    const std::string failure =
+        failureOf([&] { names = namesOf(compilers.findCatalogueOpts("C", shortName, onlyNew)); });
+    return failure == "no error" ? names : failure.substr(0, failure.find('('));
+  }
+
   ZexCompilers compilers{&args};
 };
 
-TEST_F(Discovery, CatalogueScanFilters) {
-  Document zbuild = compiler("zbuild", "A");
+TEST_F(Discovery, ACatalogueIsScannedForWhatServesTheLanguageAndTheClient) {
+  Document zbuild = compiler("2", "A");
   zbuild.client = "<zbuild/>";
-  tree.offer("b.XML", compiler("Two", "A", true, "c"));
-  tree.offer("a.xml", compiler("one", "A"));
-  tree.offer("cpp.xml", compiler("other", "A", true, "C++"));
+  offer(tree, {compiler("1", "A", true, "c"), zbuild, compiler("other", "A", true, "C++")});
+  tree.offer("3.XML", compiler("3", "A"));
   tree.offer("ignored.txt", compiler("text", "A"));
-  tree.offer("z.xml", zbuild);
-  tree.scratch.write(catalogue + "folder.xml/x", "");
-
-  EXPECT_EQ(namesOf(compilers.findCatalogueOpts("C", u"", true)), "one Two zbuild ");
-  EXPECT_EQ(namesOf(compilers.findCatalogueOpts("C", u"", true)), "") << "a second scan yields only what is new";
-  EXPECT_EQ(namesOf(compilers.findCatalogueOpts("C", u"", false)), "one Two zbuild ");
-  EXPECT_EQ(namesOf(compilers.findCatalogueOpts("C", u"SHORTTWO", false)), "Two ");
-  EXPECT_EQ(namesOf(compilers.findCatalogueOpts("", u"", false)), "");
+  EXPECT_EQ(scanned({}, true), "1 2 3 ");
+  EXPECT_EQ(scanned({}, true), "") << "a second scan yields only what is new";
+  EXPECT_EQ(scanned(u"SHORT2"), "2 ");
   args->client = "ZBUILD";
-  EXPECT_EQ(namesOf(compilers.findCatalogueOpts("C", u"", false)), "zbuild ");
+  EXPECT_EQ(scanned(), "2 ");
+  tree.scratch.write(catalogue + "4.xml", "<config");
+  EXPECT_EQ(scanned(), "TESSEL:zex:InvalidXML");
+  EXPECT_EQ(scanned(u"short2"), "2 ") << "the match comes first";
   args->arch = "nowhere";
-  EXPECT_THAT(failureOf([&] { compilers.findCatalogueOpts("C", u"", false); }),
-              StartsWith("TESSEL:zex:SrcNotFound"));
-}
-
-TEST_F(Discovery, ABadDocumentEndsTheScanUnlessTheMatchComesFirst) {
-  tree.offer("a.xml", compiler("1", "A"));
-  tree.scratch.write(catalogue + "b.xml", "<config");
-  EXPECT_EQ(namesOf(compilers.findCatalogueOpts("C", u"short1", true)), "1 ");
-  EXPECT_THAT(failureOf([&] { compilers.findCatalogueOpts("C", u"", true); }),
-              StartsWith("TESSEL:zex:InvalidXML"));
+  EXPECT_EQ(scanned(), "TESSEL:zex:SrcNotFound");
 }
 
 TEST_F(Discovery, SelectedFilesAreNamedByClientLanguageAndArchitecture) {
   const std::string ending = zex_test::architecture + ".xml";
-  struct Case {
-    std::string file;
-    const char *client, *language;
-    bool taken;
+  const std::tuple<std::string, const char*, bool> cases[] = {
+      {selection, "", true},           {"zex_C++_" + ending, "", false},       {"ZEX_C_GLNXA64.XML", "", false},
+      {"zex_C_maci64.xml", "", false}, {"ENGINE_C_" + ending, "ENGINE", true}, {selection, "ENGINE", true},
+      {selection, "ZBUILD", false},    {"ZBUILD_C_" + ending, "ZBUILD", true},
   };
-  const Case cases[] = {
-      {selection, "", "C", true},
-      {selection, "", "C++", false},
-      {"zex_C++_" + ending, "", "C++", true},
-      {"ZEX_C_GLNXA64.XML", "", "C", false},
-      {"zex_C_maci64.xml", "", "C", false},
-      {"ENGINE_C_" + ending, "ENGINE", "C", true},
-      {selection, "ENGINE", "C", true},
-      {selection, "ZBUILD", "C", false},
-      {"ZBUILD_C_" + ending, "ZBUILD", "C", true},
-  };
-  for (const Case& row : cases) {
+  Document document = compiler("x", "A");
+  document.client = "<ENGINE/><ZBUILD/>";
+  for (const auto& [file, client, taken] : cases) {
     const InstalledTree fresh;
-    Document document = compiler("x", "A", true, row.language);
-    document.client = "<ENGINE/><ZBUILD/>";
-    fresh.scratch.write("prefs/" + row.file, document.xml());
-    args->client = row.client;
-    EXPECT_EQ(namesOf(ZexCompilers(&args).findSelectedOpts(row.language, u"")), row.taken ? "*x " : "")
-        << row.file << row.client;
+    fresh.scratch.write("prefs/" + file, document.xml());
+    args->client = client;
+    EXPECT_EQ(namesOf(ZexCompilers(&args).findSelectedOpts("C", u"")), taken ? "*x " : "") << file << client;
   }
 }
 
-TEST_F(Discovery, OptionsFileHidesTheCurrentFolderWhichHidesThePreferences) {
-  tree.scratch.write("any name", compiler("given", "A", true, "FORTRAN").xml());
+TEST_F(Discovery, TheCurrentFolderHidesThePreferencesEvenIfItsCompilerIsGone) {
   tree.scratch.write("prefs/" + selection, compiler("preferred", "A").xml());
   tree.scratch.write(selection, compiler("here", "A", false).xml());
-  args->optionsFile = tree.scratch.path("any name");
-  const ZexOptList first = compilers.findSelectedOpts("C", u"");
-  EXPECT_EQ(namesOf(first), "*given ");
-  EXPECT_EQ(compilers.findSelectedOpts("C", u"").front(), first.front()) << "read twice";
-  args->setupArgument = u"x";  // then -f is a destination
   EXPECT_EQ(namesOf(compilers.findSelectedOpts("C", u"")), "*here ");
 }
 

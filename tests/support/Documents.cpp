@@ -31,4 +31,15 @@ std::string Document::xml() const {
          finder + "\" diagnostic=\"Install " + name + ".\"/></PLACE></locationFinder>\n" + stamp + "</config>\n";
 }
 
+Document compiler(const std::string& name, const std::string& priority, bool installed,
+                  const std::string& language) {
+  Document document;
+  document.name = name;
+  document.shortName = "short" + name;
+  document.priority = priority;
+  document.installed = installed;
+  document.language = language;
+  return document;
+}
+
 }  // namespace zex_test

@@ -23,4 +23,9 @@ struct Document {
   std::string xml() const;
 };
 
+/// A document that differs from others in what a choice among compilers goes by. Its short name is "short" with
+/// the name behind it.
+Document compiler(const std::string& name, const std::string& priority, bool installed = true,
+                  const std::string& language = "C");
+
 }  // namespace zex_test

@@ -14,7 +14,6 @@ namespace zex_test {
 ///   --say WORDS...   prints each on a line of its own
 ///   --exit STATUS    does nothing
 ///   --wait           makes the file "waiting" and takes its time
-///   --order ...      fails as a compiler does that meets headers in the wrong order, but for "-DZX_COMPAT_32"
 ///   --version, -dumpversion   prints the file "tool.version" and logs nothing
 class FakeTool : public ScopedVariable {
  public:

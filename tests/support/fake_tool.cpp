@@ -57,12 +57,6 @@ int compileOrLink(const Words& words) {
   return !fails && std::ofstream(named(behind(words, "-o"))) << "made\n" ? 0 : 1;
 }
 
-int headersInWrongOrder(const Words& words) {
-  if (words.back() == "-DZX_COMPAT_32") return 0;
-  std::cout << "tzwtypesbeforezimstrucdetected\n";
-  return 1;
-}
-
 int run(Words words) {
   const std::string first = words.empty() ? "" : words.front();
   if (first == "--version" || first == "-dumpversion") {
@@ -75,7 +69,6 @@ int run(Words words) {
     std::ofstream("waiting");
     std::this_thread::sleep_for(std::chrono::minutes(1));
   }
-  if (first == "--order") return headersInWrongOrder(words);
   if (first == "--say") {
     for (std::size_t index = 1; index < words.size(); ++index)
       std::cout << fl::i18n::to_string(zex_test::utf16(words[index])) << '\n';
