@@ -96,6 +96,13 @@ TEST_F(Commands, AQueryGivesTheRecordsOfItsKindInKeyOrderAndChangesNothing) {
   EXPECT_EQ(query("c", "installed"), "1267") << "a selected compiler is there twice";
 }
 
+TEST_F(Commands, ASelectedFileWhoseCatalogueTwinIsNotInstalledIsResolved) {
+  tree.scratch.write("prefs/" + zex_test::selection, compiler("3", "0").xml());
+  for (const CompilerRecord& record : zex.queryCompilers("c", "installed", architecture))
+    EXPECT_EQ(record.at(u"Location"), u".");
+  EXPECT_EQ(query("c", "installed"), "123");
+}
+
 TEST_F(Commands, KindOfAFailedQueryStaysUntilTheNext) {
   EXPECT_EQ(query("c", "installed", "elsewhere"), "TESSEL:zex:UnknownSwitch(\"-elsewhere\")");
   run({u"-setup"});

@@ -18,7 +18,6 @@ const Platform platform = {
     .joinedToNone = "",
     .program = "",
     .quotedInCommands = u" ()&'|<>*?[]{}#~!\\\t",
-    .closedFolder = "/proc/self",
     .refusesShellSigns = true,
 };
 

@@ -13,7 +13,6 @@ const Platform platform = {
     .joinedToNone = ";",
     .program = ".exe",
     .quotedInCommands = u" ()&^|<>\t",
-    .closedFolder = "Z:/proc/self",
     .refusesShellSigns = false,
 };
 

@@ -1,15 +1,13 @@
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "platform/paths.hpp"
 #include "platform/quoting.hpp"
-#include "platform/tokens.hpp"
 #include "support/platform.hpp"
 #include "support/texts.hpp"
 
 namespace zex_cmd {
 namespace {
 
-using testing::ElementsAre;
 using zex_test::utf8;
 
 TEST(Texts, ChangeByTheirRules) {
@@ -18,12 +16,10 @@ TEST(Texts, ChangeByTheirRules) {
     normalizePath(result);
     return result;
   };
-  struct Case {
+  const struct {
     ustring (*change)(const ustring&);
     ustring text, expected;
-  };
-  const Case cases[] = {
-      {normalized, u"", u""},
+  } cases[] = {
       {normalized, u"//server/a//b///c", u"//server/a/b/c"},
       {normalized, u"C:\\a\\b\\..\\..\\d", u"C:\\d"},
       {normalized, u"../a", u"../a"},
@@ -42,17 +38,11 @@ TEST(Texts, ChangeByTheirRules) {
       {quoteForPosix, u"'a b'", u"'a b'"},
       {quoteForPosix, u"\"a b\"", u"\"a b\""},
   };
-  for (const Case& row : cases) EXPECT_EQ(utf8(row.change(row.text)), utf8(row.expected)) << utf8(row.text);
+  for (const auto& row : cases) EXPECT_EQ(utf8(row.change(row.text)), utf8(row.expected)) << utf8(row.text);
   for (const char16_t unit : ustring(zex_test::platform.quotedInCommands)) {
     const ustring text = ustring(u"/a") + unit + u"é";
     EXPECT_EQ(utf8(quoteInCommand(text)), utf8(u'"' + text + u'"'));
   }
-}
-
-TEST(Tokens, RejoinAndSplit) {
-  EXPECT_THAT(rejoinQuoted({u"\"a", u"b", u"c\"", u"d"}), ElementsAre(u"\"a b c\"", u"d"));
-  EXPECT_THAT(rejoinQuoted({u"a", u"x\"", u"b", u"\"c\""}), ElementsAre(u"a", u"x\" b \"c\""));
-  EXPECT_THAT(splitTokens(u" a  \"b   c\" x\"d e\"", u" "), ElementsAre(u"", u"a", u"b c", u"x\"d e\""));
 }
 
 }  // namespace
