@@ -13,7 +13,7 @@ TEST(AdaBuilder, RefusesWhatItDoesNotKnowAndTellsThatGnatIsMissing) {
   scratch.write("a.adb", "");
   const std::pair<std::vector<fl::ustring>, const char*> rows[] = {
       {{u"-ada", u"a.adb", u"a.ads"}, "needs exactly one Ada source"},
-      {{u"-ada", u"b.adb"}, "The Ada source 'b.adb' was not found"},
+      {{u"-ada", u"b.adb"}, "b.adb' was not found, or it is not a file"},
       {{u"-ada", u"a.adb", u"-G"}, "'-G' cannot stand in a command with -ada"},
       {{u"-ada", u"a.adb", u"-output"}, "'-output' needs a value"},
       {{u"-ada", u"a.adb"}, "The Ada tool 'gnatmake' was not found"},
