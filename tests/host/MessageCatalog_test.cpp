@@ -16,13 +16,13 @@ using fl::ustring;
 
 /// A message of the test's own.
 struct Record : resource_core::BaseMsgID {
-  Record(std::string name, std::vector<ustring> values) : tagged(std::move(name)), arguments(std::move(values)) {}
+  Record(const char* tag, std::vector<ustring> values) : name(tag), arguments(std::move(values)) {}
   const std::string& component() const override { return owner; }
-  const std::string& tag() const override { return tagged; }
+  const std::string& tag() const override { return name; }
   std::size_t argumentCount() const override { return arguments.size(); }
   ustring argument(std::size_t index) const override { return arguments.at(index); }
 
-  std::string owner = "TESSEL:zex", tagged;
+  std::string owner = "TESSEL:zex", name;
   std::vector<ustring> arguments;
 };
 
@@ -39,18 +39,18 @@ TEST(Catalogue, FillsArgumentsInAndFallsBackFromCountryToLanguageToEnglishToTheI
   scratch.write("resources/zex/de/messages.txt", "TESSEL:zex:Land = Sprache \xC3\xBC\nTESSEL:zex:Both = de\n");
   scratch.write("resources/zex/de_CH/messages.txt", "TESSEL:zex:Both = de_CH\n");
   const struct {
-    const char *locale, *tag;
-    std::vector<ustring> arguments;
+    const char* locale;
+    Record record;
     ustring words;
-  } rows[] = {{"en", "Two", {u"{1}\\n", u"ü"}, u"ü before {1}\\n\n\\n {0} {2} {x} {"},
-              {"en", "Trailing", {}, u"a = b "},
-              {"de_CH", "Both", {}, u"de_CH"},
-              {"de_CH", "Land", {}, u"Sprache ü"},
-              {"fr_FR", "Land", {}, u"English"},
-              {"de", "Absent", {u"a", u""}, u"TESSEL:zex:Absent(\"a\", \"\")"},
-              {"id", "Land", {u"\"\\\n\x1b"}, u"TESSEL:zex:Land(\"\\\"\\\\\\n\\x1B\")"}};
-  for (const auto& [locale, tag, arguments, words] : rows)
-    EXPECT_EQ(fl::i18n::MessageCatalog::get_message(Record(tag, arguments), fl::i18n::ZwLocale(locale)), words);
+  } rows[] = {{"en", {"Two", {u"{1}\\n", u"ü"}}, u"ü before {1}\\n\n\\n {0} {2} {x} {"},
+              {"en", {"Trailing", {}}, u"a = b "},
+              {"de_CH", {"Both", {}}, u"de_CH"},
+              {"de_CH", {"Land", {}}, u"Sprache ü"},
+              {"fr_FR", {"Land", {}}, u"English"},
+              {"de", {"Absent", {u"a", u""}}, u"TESSEL:zex:Absent(\"a\", \"\")"},
+              {"id", {"Land", {u"\"\\\n\x1b"}}, u"TESSEL:zex:Land(\"\\\"\\\\\\n\\x1B\")"}};
+  for (const auto& [locale, record, words] : rows)
+    EXPECT_EQ(fl::i18n::MessageCatalog::get_message(record, fl::i18n::ZwLocale(locale)), words);
 }
 
 TEST(Locale, ComesFromTheFirstVariableThatSaysSomething) {

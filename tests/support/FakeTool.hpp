@@ -17,9 +17,13 @@ namespace zex_test {
 ///   --version, -dumpversion   prints the file "tool.version" and logs nothing
 class FakeTool : public ScopedVariable {
  public:
-  FakeTool();
+  FakeTool() : ScopedVariable("PATH", folder() += utf16(std::string(platform.listSeparator) + path())) {}
 
-  static std::filesystem::path program();
+  static std::filesystem::path program() { return folder() / (platform.drive.empty() ? "tool" : "tool.exe"); }
+
+ private:
+  static std::filesystem::path folder() { return std::filesystem::path(ZEX_TOOLS).make_preferred(); }
+  static std::string path() { return variable("PATH").value_or(""); }
 };
 
 }  // namespace zex_test

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 #include "support/Documents.hpp"
@@ -10,11 +11,24 @@
 
 namespace zex_test {
 
+/// Names for the architecture of the build.
+inline const std::string architecture(platform.architecture);
+inline const std::string catalogue = "root/bin/" + architecture + "/zexopts/";
+inline const std::string selection = "zex_C_" + architecture + ".xml";
+inline const std::string selectionBackup = "zex_C_" + architecture + "_backup.xml";
+
 /// A scratch folder with an installed tree ("root"), a preferences folder ("prefs"), a temporary folder ("tmp")
 /// and the stand-in tool, under a recording host: all that a command needs.
-class InstalledTree {
- public:
-  InstalledTree();
+struct InstalledTree {
+  InstalledTree() : temporary("TMPDIR", scratch.folder() / "tmp"), preferences("TESSEL_PREFDIR", nullptr) {
+    for (const char* each : {"prefs", "tmp", "root/bin/glnxa64/zexopts", "root/bin/maci64/zexopts",
+                             "root/bin/win32/zexopts", "root/bin/win64/zexopts"})
+      std::filesystem::create_directories(each);
+    for (const char* source : {"c_zexapi_version.c", "cpp_zexapi_version.cpp", "fortran_zexapi_version.F"})
+      scratch.write(std::string("root/extern/version/") + source, "");
+    host.install = scratch.path("root");
+    host.preferences = scratch.path("prefs");
+  }
 
   Scratch scratch;
   FakeTool tool;
@@ -23,16 +37,16 @@ class InstalledTree {
   RecordingServices host;
 
   /// Puts a document into the catalogue of this architecture.
-  void offer(const std::string& fileName, const Document& document) const;
+  void offer(const std::string& fileName, const Document& document) const {
+    scratch.write(catalogue + fileName, document.xml());
+  }
 
   /// Lines of the stand-in tool's log, which is emptied.
-  std::string toolLog() const;
+  std::string toolLog() const {
+    const std::string log = told(scratch.read("tool.log"));
+    std::filesystem::remove(scratch.folder() / "tool.log");
+    return log;
+  }
 };
-
-/// Names for the architecture of the build.
-inline const std::string architecture(platform.architecture);
-inline const std::string catalogue = "root/bin/" + architecture + "/zexopts/";
-inline const std::string selection = "zex_C_" + architecture + ".xml";
-inline const std::string selectionBackup = "zex_C_" + architecture + "_backup.xml";
 
 }  // namespace zex_test

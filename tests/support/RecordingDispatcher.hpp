@@ -10,40 +10,33 @@
 namespace zex_test {
 
 /// One loaded file of a recording dispatcher.
-class RecordedSet : public LoadedFunctionSet, Tfh_TESSEL_fn {
- public:
-  RecordedSet(fl::ustring completeName, int locks) : completeName_(std::move(completeName)), locks_(locks) {
+struct RecordedSet : LoadedFunctionSet, Tfh_TESSEL_fn {
+  RecordedSet(fl::ustring completeName, int locks) : name(std::move(completeName)), lockedTimes(locks) {
     kind = nativeExtension;
     handles.push_back(this);
   }
   int kindQuery() const override { return query; }
-  int lockCount() const override { return locks_; }
+  int lockCount() const override { return lockedTimes; }
   void unload() override { unloaded = true; }
+  fl::ustring get_complete_name() const override { return name; }
 
+  fl::ustring name;
+  int lockedTimes;
   int query = nativeExtension;
   bool unloaded = false;
-
- private:
-  fl::ustring get_complete_name() const override { return completeName_; }
-
-  fl::ustring completeName_;
-  int locks_;
 };
 
 /// A dispatcher whose table a test fills, and which records what it is told.
-class RecordingDispatcher : public Tdispatcher, Korvane::EventManager, Korvane::PathManager {
- public:
-  std::vector<LoadedFunctionSet*> table;
-  std::vector<fl::ustring> notices;  ///< resource names
-  std::vector<int> updates;
-
+struct RecordingDispatcher : Tdispatcher, Korvane::EventManager, Korvane::PathManager {
   const std::vector<LoadedFunctionSet*>& loadedFunctionSets() const override { return table; }
   EventManager& GetPerTVMEventManager() override { return *this; }
   PathManager& GetCurrentPathManager() override { return *this; }
-
- private:
   void upstreamPathEntriesMayHaveChanged(const fl::ustring& name) override { notices.push_back(name); }
   void update(int mode) override { updates.push_back(mode); }
+
+  std::vector<LoadedFunctionSet*> table;
+  std::vector<fl::ustring> notices;  ///< resource names
+  std::vector<int> updates;
 };
 
 }  // namespace zex_test

@@ -25,16 +25,6 @@ std::string inPseudoLocale(const resource_core::BaseMsgID& record) {
 
 }  // namespace
 
-RecordingServices::RecordingServices() : previous_(host::installServices(this)) {}
-
-RecordingServices::~RecordingServices() {
-  host::installServices(previous_);
-}
-
-void RecordingServices::write(std::string_view text) {
-  output += told(fromNative(text));
-}
-
 void RecordingServices::showWarning(const resource_core::BaseMsgID& record) {
   warnings.push_back(inPseudoLocale(record));
 }
@@ -60,8 +50,15 @@ zxArray* RecordingServices::callFunction(const std::string& name, int outputCoun
                  : nullptr;
 }
 
-std::string renderedFailure(const foundation::core::except::IMsgIDException& failure) {
-  return inPseudoLocale(failure.message());
+std::string failureOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const foundation::core::except::IMsgIDException& failure) {
+    return inPseudoLocale(failure.message());
+  } catch (const std::exception& failure) {
+    return failure.what();
+  }
+  return "no error";
 }
 
 }  // namespace zex_test

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "host/Services.hpp"
 #include "standalone/values/HostValue.hpp"
+#include "support/platform.hpp"
 
 namespace zex_test {
 
@@ -13,8 +15,8 @@ namespace zex_test {
 /// its own, so that no test sees what another left behind. Messages are rendered in the pseudo-locale "id".
 class RecordingServices : public host::Services {
  public:
-  RecordingServices();
-  ~RecordingServices() override;
+  RecordingServices() : previous_(host::installServices(this)) {}
+  ~RecordingServices() override { host::installServices(previous_); }
 
   std::string output;                 ///< all that was written, with paths as tests write them
   std::vector<std::string> warnings;  ///< rendered in the pseudo-locale
@@ -30,7 +32,7 @@ class RecordingServices : public host::Services {
   /// Fields of the exception object that every function but "getfield" answers with; nothing: all goes well.
   std::optional<host::standalone::HostValue::Fields> failure;
 
-  void write(std::string_view text) override;
+  void write(std::string_view text) override { output += told(fromNative(text)); }
   bool outputIsHot() const override { return hot; }
   void showWarning(const resource_core::BaseMsgID& record) override;
   void noteError(const foundation::core::except::IUserException& error) override;
@@ -46,20 +48,8 @@ class RecordingServices : public host::Services {
   host::Services* previous_;
 };
 
-std::string renderedFailure(const foundation::core::except::IMsgIDException& failure);
-
 /// What an action throws, rendered in the pseudo-locale, as in `TESSEL:zex:UnknownSwitch("-x")`; "no error" where
 /// it throws nothing. An exception without an identifier gives its text.
-template <class Action>
-std::string failureOf(const Action& action) {
-  try {
-    action();
-  } catch (const foundation::core::except::IMsgIDException& failure) {
-    return renderedFailure(failure);
-  } catch (const std::exception& failure) {
-    return failure.what();
-  }
-  return "no error";
-}
+std::string failureOf(const std::function<void()>& action);
 
 }  // namespace zex_test

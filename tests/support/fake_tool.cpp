@@ -18,19 +18,9 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-std::filesystem::path named(const std::string& name) {
-  return zex_test::utf16(name);
-}
-
 std::string contentOf(const std::string& name) {
-  std::ifstream stream(named(name), std::ios::binary);
+  std::ifstream stream(std::filesystem::path(zex_test::utf16(name)), std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-void keepLog(const Words& words) {
-  std::ofstream log("tool.log", std::ios::binary | std::ios::app);
-  for (const std::string& word : words) log << (&word == &words.front() ? "" : " ") << word;
-  log << '\n';
 }
 
 /// Parts of a response file: between blanks, with double quotes around what holds some.
@@ -54,35 +44,31 @@ int compileOrLink(const Words& words) {
     std::cerr << (fails ? "bad source\n" : "careful\n");
     std::cout << (fails ? "out\n" : "detail\n");
   }
-  return !fails && std::ofstream(named(behind(words, "-o"))) << "made\n" ? 0 : 1;
-}
-
-int run(Words words) {
-  const std::string first = words.empty() ? "" : words.front();
-  if (first == "--version" || first == "-dumpversion") {
-    std::cout << contentOf("tool.version");
-    return 0;
-  }
-  keepLog(words);
-  if (first == "--exit") return std::stoi(words.at(1));
-  if (first == "--wait") {
-    std::ofstream("waiting");
-    std::this_thread::sleep_for(std::chrono::minutes(1));
-  }
-  if (first == "--say") {
-    for (std::size_t index = 1; index < words.size(); ++index)
-      std::cout << fl::i18n::to_string(zex_test::utf16(words[index])) << '\n';
-    return 0;
-  }
-  return compileOrLink(first.starts_with('@') ? partsOf(contentOf(first.substr(1))) : words);
+  const std::filesystem::path product = zex_test::utf16(behind(words, "-o"));
+  return !fails && std::ofstream(product) << "made\n" ? 0 : 1;
 }
 
 }  // namespace
 
 int main(int count, char** values) {
   Words words;
-  for (const fl::ustring& argument : tool::commandLineArguments(count, values)) {
+  for (const fl::ustring& argument : tool::commandLineArguments(count, values))
     words.push_back(zex_test::utf8(argument));
+  const std::string first = words.empty() ? "" : words.front();
+  if (first == "--version" || first == "-dumpversion") {
+    std::cout << contentOf("tool.version");
+    return 0;
   }
-  return run(std::move(words));
+  std::ofstream log("tool.log", std::ios::binary | std::ios::app);
+  for (const std::string& word : words) log << (&word == &words.front() ? "" : " ") << word;
+  log << std::endl;
+  if (first == "--exit") return std::stoi(words.at(1));
+  if (first == "--wait") {
+    std::ofstream("waiting");
+    std::this_thread::sleep_for(std::chrono::minutes(1));
+  }
+  if (first != "--say") return compileOrLink(first.starts_with('@') ? partsOf(contentOf(first.substr(1))) : words);
+  for (std::size_t index = 1; index < words.size(); ++index)
+    std::cout << fl::i18n::to_string(zex_test::utf16(words[index])) << '\n';
+  return 0;
 }

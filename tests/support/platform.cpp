@@ -8,11 +8,7 @@
 
 namespace zex_test {
 
-namespace {
-
 constexpr bool writesBackslashes = std::filesystem::path::preferred_separator != '/';
-
-}  // namespace
 
 std::string told(std::string text) {
   text = toldMessage(std::move(text));

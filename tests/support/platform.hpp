@@ -12,7 +12,6 @@ struct Platform {
   std::string_view drive;                ///< of the scratch folder, ahead of the first "/" of a path
   std::string_view listSeparator;        ///< between the folders of a search path
   std::string_view joinedToNone;         ///< what is put behind a value of the environment that was not set before
-  std::string_view program;              ///< what the names of programs end in
   std::u16string_view quotedInCommands;  ///< what the shell acts upon also within a path
   bool refusesShellSigns;  ///< a path with a double quote or "$", which no command can carry, is invalid
 };

@@ -16,7 +16,6 @@ const Platform platform = {
     .drive = "",
     .listSeparator = ":",
     .joinedToNone = "",
-    .program = "",
     .quotedInCommands = u" ()&'|<>*?[]{}#~!\\\t",
     .refusesShellSigns = true,
 };

@@ -11,7 +11,6 @@ const Platform platform = {
     .drive = "C:",
     .listSeparator = ";",
     .joinedToNone = ";",
-    .program = ".exe",
     .quotedInCommands = u" ()&^|<>\t",
     .refusesShellSigns = false,
 };
