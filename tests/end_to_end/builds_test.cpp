@@ -65,9 +65,6 @@ const Build builds[] = {
     {On::Windows, "ImportLibrary", "caller.c '-Ll é' -lhelper", "caller", "6", dll, "helper.dll "},
     {On::Windows, "DllByName", "caller.c -L. -lhelper", "caller", "6", dll, "helper.dll "},
 
-    // Assignments.
-    {On::Linux, "PostlinkCommands", "value.c 'POSTLINK_CMDS=mv value.zexa64 one;mv one two.zexa64'", "two", "42"},
-
     // Commands that are longer than the shell takes.
     {On::All, "LongC", "'-Io (1)&é' value.c", "value", "5", odd},
     {On::All, "LongCpp", "value.cpp", "value", "43"},
@@ -112,8 +109,11 @@ class Builds : public TargetTest, public testing::WithParamInterface<std::pair<T
     const std::string printed = build("-n -silent " + arguments).out;
     EXPECT_THAT(printed, HasSubstr(tree.string() + "/extern/version/"));
     write("../printed.sh", printed);
+    // Products for Windows hold the time, and those of nvcc a random name.
+    const bool isFixed = !target.isWindows() && arguments.find(".cu") == std::string::npos;
+    const std::string compare = isFixed ? "cmp ../built '" + product + "'" : "true";
     const Outcome outcome =
-        shell("sh ../printed.sh && cmp ../built '" + product + "'; status=$?\nrm -rf \"$TMPDIR\"/*; exit $status");
+        shell("sh ../printed.sh && " + compare + "; status=$?\nrm -rf \"$TMPDIR\"/*; exit $status");
     EXPECT_EQ(outcome.status, 0) << outcome.out << outcome.err;
   }
 
@@ -140,7 +140,7 @@ TEST_P(Builds, GiveALoadableProductAndNothingElse) {
   const std::string bits = row.arguments.find("-compatible") == std::string::npos ? "64" : "32";
   const std::string content = contentOf(product);
   EXPECT_THAT(content, HasSubstr("kind=driver release=R2017b dims=" + bits + " cmd=1;"));
-  EXPECT_EQ(content.find(".debug_line") != std::string::npos, row.arguments.starts_with("-g"));
+  if (row.arguments.starts_with("-g")) EXPECT_THAT(content, HasSubstr(work.string())) << "debug lines";
   if (target.isWindows()) expectHeaders(product, row);
   if (!isLong) expectSameByTheCommandsOf(arguments, product);
   if (!canCall()) GTEST_SKIP() << "no Wine, or no compiler when the build was configured: nothing was called";

@@ -62,8 +62,6 @@ TEST_P(EachTarget, ExtensionsAnswerAndFailUnderItsRunner) {
       {"filter.c", "'[0.25 0.5 -1.5]' '[1;2;4;8]'", filtered},
       {"-compatibleArrayDims filter.c", "1", "", "[filter:arguments]\n"},
       {"product.cpp", "'[1 2;3 4]' '[5 6;7 8]'", "ans1: real, 2 by 2\n    19  22\n    43  50\n"},
-      // Wider than its blocks.
-      {"product.cpp", "\"[$(seq -s ' ' 140)]\" \"[$(seq -s ';' 140)]\"", "ans1: real, 1 by 1\n    924490\n"},
       {"product.cpp", "'[1 2]' '[1 2]'", "", "[product:sizes]\n"},
       {"echo.c", "\"'gré'\"", spoken + "ans1: text, 1 by 3\n    gr" + letter + "\n"},
       {"echo.c", "'[1 -2.5; 1e5 4]' '[1+2i -1i]' -nlhs 3 true", "3 inputs (" + letter + ")\n" + manyKinds},
