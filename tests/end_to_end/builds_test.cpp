@@ -98,8 +98,8 @@ class Builds : public TargetTest, public testing::WithParamInterface<std::pair<T
   void expectHeaders(const std::string& product, const Build& row) const {
     const bool fortran = row.arguments.find(".f90") != std::string::npos;
     const bool fortranRecord = fortran || row.arguments.find("-fortran") != std::string::npos;
-    EXPECT_EQ(exportsOf(product), std::string(fortran ? "zexfunction_ " : "zexFunction ") +
-                                      (fortranRecord ? "zexapi_version_record_ " : "zexapi_version_record "));
+    const std::string record = fortranRecord ? "zexapi_version_record_ " : "zexapi_version_record ";
+    EXPECT_EQ(exportsOf(product), fortran ? record + "zexfunction_ " : "zexFunction " + record);
     EXPECT_EQ(librariesOf(product), "KERNEL32.dll " + row.alsoNeeds + "msvcrt.dll ");
   }
 
