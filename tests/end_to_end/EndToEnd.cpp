@@ -109,20 +109,4 @@ std::string replaced(std::string text, const std::string& from, const std::strin
   return text;
 }
 
-std::string gccDocument(const std::string& from, const std::string& to) {
-  return replaced(contentOf(program("zexopts") / "gcc.xml"), from, to);
-}
-
-std::string record(const std::string& product) {
-  const std::string bytes = contentOf(product);
-  const std::size_t begin = bytes.find("@(#)zex-record ");
-  return begin == std::string::npos ? "" : bytes.substr(begin, bytes.find(';', begin) + 1 - begin);
-}
-
-std::size_t timesIn(const std::string& text, const std::string& word) {
-  std::size_t count = 0;
-  for (std::size_t at = text.find(word); at != std::string::npos; at = text.find(word, at + 1)) ++count;
-  return count;
-}
-
 }  // namespace end_to_end

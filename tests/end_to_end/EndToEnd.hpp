@@ -66,15 +66,6 @@ void write(const std::filesystem::path& file, const std::string& content);
 /// A text with each occurrence of another one replaced; a failure if there is none.
 std::string replaced(std::string text, const std::string& from, const std::string& to);
 
-/// That of the shipped document of gcc.
-std::string gccDocument(const std::string& from, const std::string& to);
-
-/// The driver's version record in a product, or an empty text.
-std::string record(const std::string& product);
-
-/// How often a word is in a text.
-std::size_t timesIn(const std::string& text, const std::string& word);
-
 // --- What differs between the systems ---
 
 /// The status of a line of the system's shell, which leaves its texts in the files "out" and "err" above the

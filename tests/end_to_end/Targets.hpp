@@ -1,7 +1,5 @@
 #pragma once
 
-#include <ostream>
-
 #include "end_to_end/EndToEnd.hpp"
 
 namespace end_to_end {
@@ -21,8 +19,6 @@ struct Target {
 extern const Target forThisSystem;
 extern const Target forWindows;
 
-void PrintTo(const Target& target, std::ostream* stream);
-
 /// Builds for a target, skipped where its compilers are not installed. Products for Windows are called under Wine.
 class TargetTest : public EndToEnd {
  protected:
@@ -38,10 +34,9 @@ class TargetTest : public EndToEnd {
   /// Runs the target's program that calls a product.
   Outcome zexrun(const std::string& arguments) const;
 
-  /// All that a pattern with one group finds in the headers of a product for Windows.
-  Names inHeaders(const std::string& product, const std::string& pattern) const;
-  Names exportsOf(const std::string& product) const;
-  Names librariesOf(const std::string& product) const;
+  /// The sorted names in the headers of a product for Windows, with a blank behind each.
+  std::string exportsOf(const std::string& product) const;
+  std::string librariesOf(const std::string& product) const;
 
   Target target;
 

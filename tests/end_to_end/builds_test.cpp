@@ -5,7 +5,6 @@ namespace end_to_end {
 namespace {
 
 using testing::HasSubstr;
-using testing::UnorderedElementsAreArray;
 
 enum class On { All, Linux, Windows };
 
@@ -17,12 +16,8 @@ struct Build {
   std::string product;  ///< without its extension
   std::string answer;
   std::string before = "true";  ///< line of the shell that prepares the folder
-  Names alsoNeeds = {};         ///< libraries beside those of every Windows machine
+  std::string alsoNeeds = {};   ///< a library beside those of every Windows machine, with a blank behind it
 };
-
-void PrintTo(const Build& build, std::ostream* stream) {
-  *stream << "zex " << build.arguments;
-}
 
 const std::string odd =
     "mkdir 'o (1)&é'; for f in value.c value.cpp bits.f90 kernel.cu; do "
@@ -30,10 +25,6 @@ const std::string odd =
 const std::string threads =
     "printf '#include <thread>\\nextern \"C\" void zexFunction(long long* n)"
     " { std::thread([n] { *n = 4; }).join(); }\\n' > threads.cpp";
-const std::string archive = "gcc -fPIC -c helper.c && mkdir 'l é' && ar rc 'l é/libhelper.a' helper.o";
-const std::string shared = "gcc -shared -fPIC helper.c -o libhelper.so -Wl,-soname,\"$PWD/libhelper.so\"";
-const std::string responses =
-    "printf 'value.c\\n\\n  @\"in ner\"   -output\\n\"na me\"' > outer; echo -DVALUE=9 > 'in ner'";
 const std::string dll =
     "mkdir 'l é' && x86_64-w64-mingw32-gcc -shared helper.c -o helper.dll -Wl,--out-implib,'l é/libhelper.dll.a'";
 const std::string lib =
@@ -52,7 +43,7 @@ const Build builds[] = {
     {On::Windows, "CppThreads", "threads.cpp", "threads", "4", threads},
     {On::All, "Fortran", "bits.f90", "bits", "64"},
     {On::All, "FortranCompatible", "-compatibleArrayDims bits.f90", "bits", "32"},
-    {On::All, "FortranModules", "-largeArrayDims base.f90 raised.f90 modules.f90", "base", "44"},
+    {On::All, "FortranModules", "-largeArrayDims base.f90 modules.f90", "base", "44"},
     {On::All, "CWithFortranObject", "caller.c helper.$OBJ -fortran 'FLIBS=-lgfortran -lquadmath'", "caller",
      "1234", "\"$ZEX\" $FOR -c helper.f90"},
 
@@ -62,35 +53,28 @@ const Build builds[] = {
     {On::All, "OddCpp", "'o (1)&é.cpp'", "o (1)&é", "43", odd},
     {On::All, "OddFortran", "'o (1)&é.f90'", "o (1)&é", "64", odd},
     {On::Linux, "OddCuda", "'o (1)&é.cu' caller.c", "o (1)&é", "8", odd},
-    {On::Linux, "OutputFolderAndName", "-output lost/name -outdir new value.c", "new/name", "42"},
 
     // Switches.
     {On::Linux, "Optimized", "optimized.c", "optimized", "11"},
     {On::All, "DebugWinsOverOptimized", "-g -O optimized.c", "optimized", "0"},
     {On::Linux, "DefineForTheShell", R"("-DVALUE='\"a text\"[2]'" value.c)", "value", "116"},
-    {On::Linux, "ResponseFiles", "@outer", "na me", "9", responses},
     {On::All, "Objects", "-cxx caller.$OBJ helper.$OBJ", "caller", "7", "\"$ZEX\" $FOR -c caller.c helper.cpp"},
 
-    // Libraries: static ones, shared ones, and a DLL by its import library or itself.
-    {On::Linux, "LibraryByName", "caller.c '-Ll é' -lhelper", "caller", "6", archive},
-    {On::Linux, "SharedLibrary", "caller.c libhelper.so", "caller", "6", shared},
+    // Libraries: static ones, and a DLL by its import library or itself.
     {On::Windows, "StaticLibrary", "caller.c 'l é/helper.lib'", "caller", "6", lib},
-    {On::Windows, "ImportLibrary", "caller.c '-Ll é' -lhelper", "caller", "6", dll, {"helper.dll"}},
-    {On::Windows, "DllByName", "caller.c -L. -lhelper", "caller", "6", dll, {"helper.dll"}},
+    {On::Windows, "ImportLibrary", "caller.c '-Ll é' -lhelper", "caller", "6", dll, "helper.dll "},
+    {On::Windows, "DllByName", "caller.c -L. -lhelper", "caller", "6", dll, "helper.dll "},
 
-    // Assignments.
-    {On::Linux, "FlagsExtended", "'COMPFLAGS=$COMPFLAGS -DV=3' 'COMPFLAGS=$COMPFLAGS -DVALUE=V+5' value.c",
-     "value", "8"},
-    {On::Linux, "FlagsKeepIncludes", "COMPFLAGS=-O3 '-Io (1)&é' value.c", "value", "5", odd},
-    {On::Linux, "PostlinkCommands", "value.c 'POSTLINK_CMDS=mv value.zexa64 one;mv one two.zexa64'", "two", "42"},
-    {On::Linux, "Integers32ByFlags", "FFLAGS=-fno-default-integer-8 bits.f90", "bits", "32"},
-    {On::Linux, "Integers64ByFlags", "-compatibleArrayDims 'FFLAGS=$FFLAGS -fdefault-integer-8' bits.f90", "bits",
-     "64"},
+    // Commands that are longer than the shell takes.
+    {On::All, "LongC", "'-Io (1)&é' value.c", "value", "5", odd},
+    {On::All, "LongCpp", "value.cpp", "value", "43"},
+    {On::All, "LongFortran", "-largeArrayDims base.f90 modules.f90", "base", "44"},
+    {On::Linux, "LongCuda", "kernel.cu caller.c", "kernel", "8"},
 
     // Calls of zex.h, and errors that end a call by unwinding it.
-    {On::Windows, "CError", "raise.c", "raise", "thrown: raise:it", raising, {"libzx.dll"}},
-    {On::Windows, "CppError", "raise.cpp", "raise", "thrown: raise:it", raising, {"libzx.dll"}},
-    {On::Windows, "FortranError", "raise.f90", "raise", "thrown: from Fortran", raising, {"libzx.dll"}},
+    {On::Windows, "CError", "raise.c", "raise", "thrown: raise:it", raising, "libzx.dll "},
+    {On::Windows, "CppError", "raise.cpp", "raise", "thrown: raise:it", raising, "libzx.dll "},
+    {On::Windows, "FortranError", "raise.f90", "raise", "thrown: from Fortran", raising, "libzx.dll "},
 };
 
 std::vector<std::pair<Target, Build>> buildsForEveryTarget() {
@@ -104,41 +88,61 @@ std::vector<std::pair<Target, Build>> buildsForEveryTarget() {
 
 class Builds : public TargetTest, public testing::WithParamInterface<std::pair<Target, Build>> {
  protected:
-  void SetUp() override { use(GetParam().first); }
-
-  void useOddTree() {
-    const std::filesystem::path tree = scratch.folder() / "tree (1)&é";
+  void SetUp() override {
+    use(GetParam().first);
     std::filesystem::create_directory_symlink(ZEX_TREE, tree);
-    set("TESSEL_ROOT", tree);
-    EXPECT_THAT(build("-n value.c").out, HasSubstr(tree.string() + "/extern/version/c_zexapi_version.c"));
+    set("TESSEL_ROOT", tree.string() + "//");
   }
 
   /// Products for Windows show their entry point alone, and need no more than they have to.
   void expectHeaders(const std::string& product, const Build& row) const {
     const bool fortran = row.arguments.find(".f90") != std::string::npos;
     const bool fortranRecord = fortran || row.arguments.find("-fortran") != std::string::npos;
-    EXPECT_THAT(exportsOf(product),
-                testing::UnorderedElementsAre(fortran ? "zexfunction_" : "zexFunction",
-                                              fortranRecord ? "zexapi_version_record_" : "zexapi_version_record"));
-    Names libraries = {"KERNEL32.dll", "msvcrt.dll"};
-    libraries.insert(libraries.end(), row.alsoNeeds.begin(), row.alsoNeeds.end());
-    EXPECT_THAT(librariesOf(product), UnorderedElementsAreArray(libraries));
+    const std::string record = fortranRecord ? "zexapi_version_record_ " : "zexapi_version_record ";
+    EXPECT_EQ(exportsOf(product), fortran ? record + "zexfunction_ " : "zexFunction " + record);
+    EXPECT_EQ(librariesOf(product), "KERNEL32.dll " + row.alsoNeeds + "msvcrt.dll ");
   }
+
+  /// The shell makes the same of what a dry run prints.
+  void expectSameByTheCommandsOf(const std::string& arguments, const std::string& product) const {
+    ASSERT_EQ(shell("mv '" + product + "' ../built").status, 0);
+    const std::string printed = build("-n -silent " + arguments).out;
+    EXPECT_THAT(printed, HasSubstr(tree.string() + "/extern/version/"));
+    write("../printed.sh", printed);
+    // Products for Windows hold the time, and those of nvcc a random name.
+    const bool isFixed = !target.isWindows() && arguments.find(".cu") == std::string::npos;
+    const std::string compare = isFixed ? "cmp ../built '" + product + "'" : "true";
+    const Outcome outcome =
+        shell("sh ../printed.sh && " + compare + "; status=$?\nrm -rf \"$TMPDIR\"/*; exit $status");
+    EXPECT_EQ(outcome.status, 0) << outcome.out << outcome.err;
+  }
+
+  const std::filesystem::path tree = scratch.folder() / "tree (1)&é";
 };
 
 TEST_P(Builds, GiveALoadableProductAndNothingElse) {
   const Build& row = GetParam().second;
   if (needsMissingTool(row.arguments)) GTEST_SKIP() << "nvcc is not installed";
   ASSERT_EQ(shell(row.before).status, 0);
-
+  const bool isLong = row.name.starts_with("Long");
+  std::string arguments = target.option + " " + row.arguments;
+  if (isLong) {
+    const std::string folders = R"($(seq -s ' ' -f '-L"/no folder (1)&é/%g"' 400))";
+    arguments += " -D" + std::string(8000, 'P') + " \"LINKLIBS=" + folders + "\"";
+  }
+  // Response files are named without quotes: the program must not put them into a folder with a blank.
+  const zex_test::ScopedVariable folder("TMPDIR", isLong ? work : temporary);
   const std::string product = row.product + target.product;
-  if (row.name.starts_with("Odd")) useOddTree();
-  const std::string out = build(target.option + " " + row.arguments, {product}).out;
+
+  const std::string out = build(arguments, {product}).out;
 
   EXPECT_THAT(out, testing::Not(HasSubstr("arning")));
   const std::string bits = row.arguments.find("-compatible") == std::string::npos ? "64" : "32";
-  EXPECT_THAT(contentOf(product), HasSubstr("kind=driver release=R2017b dims=" + bits + " cmd=1;"));
+  const std::string content = contentOf(product);
+  EXPECT_THAT(content, HasSubstr("kind=driver release=R2017b dims=" + bits + " cmd=1;"));
+  if (row.arguments.starts_with("-g")) EXPECT_THAT(content, HasSubstr(work.string())) << "debug lines";
   if (target.isWindows()) expectHeaders(product, row);
+  if (!isLong) expectSameByTheCommandsOf(arguments, product);
   if (!canCall()) GTEST_SKIP() << "no Wine, or no compiler when the build was configured: nothing was called";
   EXPECT_EQ(answer(product), row.answer);
 }
@@ -152,36 +156,21 @@ INSTANTIATE_TEST_SUITE_P(EndToEnd, EachTarget, testing::Values(forThisSystem, fo
 
 TEST_P(EachTarget, ClientsGetAProgramOrAPlainSharedLibrary) {
   write("main.c", "#define ZX_HOST\n#include <zex.h>\nint main(void) { return (int)zxNumber(zxMakeReal(9)); }\n");
-  const std::string main = "main" + target.program;
-  build(target.option + " -client ENGINE main.c", {main});
-  if (target.isWindows()) {
-    EXPECT_THAT(librariesOf(main), testing::Contains("libzx.dll"));
-  } else {
-    // The options serve a sanitizer build alone: the program itself is not instrumented, its run-time library is,
-    // and it leaves its array to the end of the process.
+  build(target.option + " -client ENGINE main.c", {"main" + target.program});
+  if (!target.isWindows()) {
+    // It finds the library of the tree by itself. The options serve a sanitizer build alone, whose run-time
+    // library the program does not begin with; it leaves its array to the end of the process.
     EXPECT_EQ(shell("ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=0 ./main").status, 9);
-    EXPECT_THAT(shell("ldd ./main").out, HasSubstr("libzx.so.1 => " ZEX_TREE)) << "finds the library by itself";
   }
-  for (const std::string client : {"zbuild", "ZBUILD_COM"}) {
-    const std::string library = client + target.library;
-    // No closing line.
-    EXPECT_THAT(
-        build(target.option + " -client " + client + " caller.c helper.cpp -output " + client, {library}).out,
-        testing::MatchesRegex("TESSEL:zex:Building\\(\"g\\+\\+.*\"\\)\n"));
-    EXPECT_EQ(record(library), "");
-    if (canCall()) {
-      EXPECT_EQ(answer(library), "7");
-    }
-    if (!target.isWindows()) continue;
-    EXPECT_THAT(exportsOf(library), testing::UnorderedElementsAre("zexFunction", "helper"));
-    EXPECT_EQ(librariesOf(library).size(), 2U) << "a run-time library";
+  const std::string library = "plain" + target.library;
+  build(target.option + " -client zbuild caller.c helper.cpp -output plain", {library});
+  EXPECT_THAT(contentOf(library), testing::Not(HasSubstr("@(#)zex-record")));
+  if (target.isWindows()) {
+    EXPECT_EQ(exportsOf(library), "helper zexFunction ");
   }
-}
-
-TEST_P(EachTarget, DebugProductsHoldTheirLines) {
-  build(target.option + " -g value.c", {"value" + target.product});
-  const std::string tool = target.isWindows() ? "x86_64-w64-mingw32-objdump" : "objdump";
-  EXPECT_THAT(shell(tool + " --dwarf=decodedline value" + target.product).out, HasSubstr("value.c"));
+  if (canCall()) {
+    EXPECT_EQ(answer(library), "7");
+  }
 }
 
 TEST_P(EachTarget, ObjectsAreLeftBesideTheUserAndTheProductsRecordFollowsThem) {
@@ -195,77 +184,24 @@ TEST_P(EachTarget, ObjectsAreLeftBesideTheUserAndTheProductsRecordFollowsThem) {
 
   struct {
     std::string arguments, told;
-    std::size_t repeated;
+    bool again;  ///< the record is compiled anew
   } const rows[] = {
-      {"-R2018a one.c", "release=R2018a dims=64", 0},
-      {"-g " + one, "release=R2018a dims=64", 1},
-      {two, "release=R2017b dims=32", 1},
-      {"-no_zexcheck " + one + " " + two, "release=R2017b dims=64", 0},
+      {"-g " + one, "release=R2018a dims=64", true},
+      {two, "release=R2017b dims=32", true},
+      {"-no_zexcheck " + one + " " + two, "release=R2017b dims=64", false},
   };
   const std::string product = "product" + target.product;
   for (const auto& row : rows) {
     const std::string out = build(option + "-v -output product " + row.arguments, {product}).out;
-    EXPECT_EQ(timesIn(out, "TESSEL:zex:RecompileVer("), row.repeated) << row.arguments;
+    EXPECT_EQ(out.find("TESSEL:zex:RecompileVer(") != std::string::npos, row.again) << row.arguments;
     EXPECT_THAT(contentOf(product), HasSubstr("kind=driver " + row.told + " cmd=1;")) << row.arguments;
     std::filesystem::remove(product);
   }
   // The product stays: its records tell what is wrong with it.
   const Outcome mixed = zex(option + one + " " + two, {"one" + target.product});
-  EXPECT_EQ(mixed.status, 1);
-  EXPECT_THAT(mixed.err, testing::AllOf(HasSubstr("TESSEL:zex:Error(\"Contradicting interfaces: "),
-                                        HasSubstr("R2018a"), HasSubstr("R2017b")));
+  EXPECT_THAT(mixed.err, HasSubstr("TESSEL:zex:Error(\"Contradicting interfaces: "));
   if (canCallWithTree()) {
     EXPECT_THAT(zexrun("one" + target.product).err, HasSubstr("[TESSEL:host:InterfaceMismatch]"));
-  }
-}
-
-TEST_P(EachTarget, LongCommandsGoThroughResponseFiles) {
-  const zex_test::ScopedVariable blank("TMPDIR", work.c_str());
-  std::string folders;
-  for (int index = 0; index < 400; ++index) folders += " -L\"/usr/no folder (1)&é\"";
-  ASSERT_EQ(shell("mkdir 'i (é)' && echo '#define VALUE 64' > 'i (é)/value.h'").status, 0);
-  struct {
-    std::string sources, product, answer;
-  } const rows[] = {
-      {"value.c", "value", "64"},
-      {"value.cpp", "value", "43"},
-      {"-largeArrayDims base.f90 raised.f90 modules.f90", "base", "44"},
-      // For this system alone.
-      {"-f \"$OPTS/clang.xml\" value.c", "value", "64"},
-      {"-f \"$OPTS/clang++.xml\" value.cpp", "value", "43"},
-      {"kernel.cu caller.c", "kernel", "8"},
-  };
-  for (const auto& row : rows) {
-    if (needsMissingTool(row.sources) || (target.isWindows() && &row - rows > 2)) continue;
-    const std::string product = row.product + target.product;
-    const Outcome outcome = build(
-        target.option + " -v '-Ii (é)' -D" + std::string(8000, 'P') + " 'LINKLIBS=" + folders + "' " + row.sources,
-        {product});
-    EXPECT_GE(timesIn(outcome.out, "TESSEL:zex:CreateRSPFile"), 3U) << row.sources;  // compiles and link
-    if (target.isWindows()) {
-      EXPECT_EQ(exportsOf(product).size(), 2U) << row.sources;
-    }
-    if (canCall()) {
-      EXPECT_EQ(answer(product), row.answer) << row.sources;
-    }
-    std::filesystem::remove(product);
-  }
-}
-
-TEST_P(EachTarget, FailuresOfToolsAreTheirOwnWordsAndLeaveNothing) {
-  struct {
-    std::string arguments, words;
-  } const rows[] = {
-      {"broken.c", "/broken.c:1:9: error: expected expression before ';'"},
-      {"broken.f90", "/broken.f90:2:"},
-      {"caller.c", "undefined reference to `helper'"},
-      {"value.c -Lno/folder -lnowhere", "cannot find -lnowhere"},
-  };
-  for (const auto& row : rows) {
-    const Outcome outcome = zex(target.option + " " + row.arguments);
-    EXPECT_EQ(outcome.status, 1) << row.arguments;
-    EXPECT_THAT(outcome.err, testing::AllOf(HasSubstr("zex: error: TESSEL:zex:Error(\""), HasSubstr(row.words),
-                                            testing::EndsWith(" [TESSEL:zex:Error]\n")));
   }
 }
 

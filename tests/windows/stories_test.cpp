@@ -1,3 +1,8 @@
+#include <windows.h>
+
+#include <bit>
+#include <csignal>
+
 #include "end_to_end/EndToEnd.hpp"
 #include "support/Documents.hpp"
 #include "support/FakeTool.hpp"
@@ -8,21 +13,37 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
-using zex_test::Document;
 using zex_test::utf16;
 
-/// The staged programs, with the stand-in tool.
+/// The staged programs, with the stand-in tool and the document my.xml that names it.
 class Windows : public EndToEnd {
  protected:
-  /// Compiles by a command, with a document whose finder may be told.
-  Outcome compileBy(const std::string& command, const std::string& finder = "<dirExists name='.'/>",
-                    const std::string& arguments = "-c value.c") const {
-    Document document;
-    document.compileCommand = command;
-    write("my.xml", replaced(document.xml(), "<dirExists name=\".\" diagnostic=\"Install Fake C.\"/>", finder));
-    return run("zex", "-f my.xml " + arguments);
+  Windows() { write("my.xml", document); }
+
+  /// Starts `zex`, waits until it is in its tool, and has the system's routine for keys run in it. The key
+  /// itself cannot be pressed without a console.
+  static int statusAfterBreak(const std::wstring& arguments) {
+    std::wstring line = L"\"" + program("zex").native() + L"\" " + arguments;
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process{};
+    CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process);
+    while (!fs::exists("waiting")) Sleep(20);
+    // At the same place in every process.
+    const FARPROC routine = GetProcAddress(GetModuleHandleW(L"kernelbase.dll"), "CtrlRoutine");
+    CloseHandle(CreateRemoteThread(process.hProcess, nullptr, 0, std::bit_cast<LPTHREAD_START_ROUTINE>(routine),
+                                   std::bit_cast<void*>(std::uintptr_t{CTRL_BREAK_EVENT}), 0, nullptr));
+    EXPECT_EQ(WaitForSingleObject(process.hProcess, 20'000), WAIT_OBJECT_0);  // the tool takes longer
+    TerminateProcess(process.hProcess, 0);
+    DWORD code = 0;
+    GetExitCodeProcess(process.hProcess, &code);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return static_cast<int>(code);
   }
 
+  const std::string document = zex_test::Document().xml();
+  const std::string finder = "<dirExists name=\".\" diagnostic=\"Install Fake C.\"/>";
   const zex_test::FakeTool tool;
 };
 
@@ -31,7 +52,6 @@ TEST_F(Windows, PathsOfEveryFormAreTaken) {
   const fs::path share = L"\\\\zex\\share";  // made ahead of the tests under Wine
   fs::create_directories(share / utf16("ä b"));
   write(share / utf16("ä b/net.c"), "");
-  write("my.xml", Document().xml());
   const std::pair<std::string, fs::path> rows[] = {
       {drive + "value.c -output " + drive + "out\\näme", utf16("out/näme.zexa64")},
       {"value.c -outdir \"\\out (2) & more\"", "\\out (2) & more\\value.zexa64"},
@@ -49,64 +69,47 @@ TEST_F(Windows, PathsOfEveryFormAreTaken) {
     fs::remove_all(folder);
 }
 
-TEST_F(Windows, FailuresAreTold) {
-  struct {
-    std::string command, arguments, message;
-  } const rows[] = {
-      {"tool --exit 3", "-c value.c", "ZexErrorCode(\"tool\", \"3\")"},
-      // Killed: the code is read as a signed number.
-      {"tool --exit -1073741819", "-c value.c", "ZexErrorCode(\"tool\", \"-1073741819\")"},
-      {"$TOOL", "value.c -outdir Q:\\x\\y", "SrcNotFound(\"Q:\\\\x\\\\y\""},
-      {"$TOOL", "value.c TEMP=Q:\\x", "SrcNotFound(\"Q:\\\\x\""},
-      {"$TOOL",
-       "\xEF\xBC\x8D"
-       "c value.c",
-       "SrcNotFound("},  // a wide "-" is none
-  };
-  for (const auto& row : rows) {
-    const Outcome outcome = compileBy(row.command + " -c $SRC -o $OBJ", "<dirExists name='.'/>", row.arguments);
-    EXPECT_EQ(outcome.status, 1) << row.arguments;
-    EXPECT_THAT(outcome.err, HasSubstr("zex: error: TESSEL:zex:" + row.message));
-    expectNoTemporaryFiles();
-  }
-  // Capture files that cannot be made are a failed command; not even an administrator makes a file here.
-  set("TMPDIR", "Z:\\proc");
-  EXPECT_THAT(compileBy("tool -c $SRC -o $OBJ", "<dirExists name='.'/>", "-c value.c TEMP=here").err,
-              HasSubstr("TESSEL:zex:ZexErrorCode("));
+TEST_F(Windows, CaptureFilesThatCannotBeMadeAreAFailedCommand) {
+  set("TMPDIR", "Z:\\proc");  // not even an administrator makes a file here
+  EXPECT_THAT(run("zex", "-f my.xml -c value.c TEMP=here").err, HasSubstr("TESSEL:zex:ZexErrorCode("));
   EXPECT_TRUE(fs::is_empty("here"));
 }
 
-TEST_F(Windows, FindersAskTheRegistryTheEnvironmentAndCommands) {
+TEST_F(Windows, FindersAskTheRegistry) {
   for (const std::string root : {"HKCU", "HKLM"}) {
     const std::string key = "reg.exe add \"" + root + "\\Software\\zex tests\" /f /v place /d ";
     ASSERT_EQ(shell(key + "\"" + root + ":\\Ü (x86) & co\"").status, 0);
-  }
-  fs::create_directories(utf16("räum/bin"));
-  set("ZEX_TEST_PLACE", work / utf16("räum"));
-  write("place.txt", "  C:\\from\\a\\..\\file  \r\n");
-  const std::pair<std::string, std::string> rows[] = {
-      {"<hkcuExists path='Software\\zex tests' name='place'/>", "\nfound HKCU:\\Ü (x86) & co\n"},
-      {"<hklmExists path='Software\\zex tests' name='place'/>", "\nfound HKLM:\\Ü (x86) & co\n"},
-      {"<hkcuExists path='Software\\zex tests' name='absent'/>", "TESSEL:zex:NotInstalledCompiler(\"Fake C\")"},
-      {"<envVarExists name='ZEX_TEST_PLACE'/><dirExists name='$$\\bin'/>", "\\work\\räum\\bin\n"},
-      {"<cmdReturns name='type place.txt'/>", "\nfound C:\\from\\file\n"},
-      {"<not><cmdReturns name='exit 1'/></not>", "\nfound\n"},
-  };
-  for (const auto& [finder, told] : rows) {
-    EXPECT_THAT(compileBy("found $PLACE", finder, "-v -n value.c").out, HasSubstr(told)) << finder;
+    const std::string test = root == "HKCU" ? "<hkcuExists" : "<hklmExists";
+    write("my.xml", replaced(document, finder, test + " path='Software\\zex tests' name='place'/>"));
+    EXPECT_THAT(run("zex", "-f my.xml -v -n value.c").out, HasSubstr(root + ":\\Ü (x86) & co\n"));
   }
 }
 
 TEST_F(Windows, ASelectionReplacesAProtectedOne) {
   const fs::path selected = preferences / "zex_C_win64.xml";
-  write(utf16("eigénes.xml"), Document().xml());
-  write(selected, Document().xml());
+  write(selected, document);
   fs::permissions(selected, fs::perms::owner_read);
-  const Outcome again = zex("-setup:eigénes.xml C", {});
-  EXPECT_EQ(again.status, 0) << again.err;
+  EXPECT_EQ(run("zex", "-setup:my.xml C").status, 0);
   EXPECT_TRUE(fs::exists(preferences / "zex_C_win64_backup.xml"));
-  EXPECT_THAT(run("zexcompilers", "c selected --json").out, HasSubstr("\"ShortName\":\"fake\""));
-  EXPECT_THAT(run("zexcompilers", "c selected win64 more").status, 1);
+}
+
+TEST_F(Windows, InterruptsEndTheToolAndTheCommand) {
+  write("my.xml", replaced(document, "CMDLINE100=\"$COMPILER", "CMDLINE100=\"tool --wait"));
+  EXPECT_EQ(statusAfterBreak(L"value.c -f my.xml"), 128 + SIGBREAK);
+  expectNoTemporaryFiles();
+  EXPECT_FALSE(fs::exists("value.zexa64"));
+}
+
+TEST_F(Windows, InterruptsOfASearchSelectNothing) {
+  // Without the first compiler the second would be taken.
+  const fs::path catalogue = scratch.folder() / "root/bin/win64/zexopts";
+  fs::create_directories(catalogue);
+  set("TESSEL_ROOT", scratch.folder() / "root");
+  write(catalogue / "b.xml", document);
+  const std::string first = replaced(document, "Priority=\"B\"", "Priority=\"A\"");
+  write(catalogue / "a.xml", replaced(first, "<dirExists name=\".\"", "<cmdReturns name=\"tool --wait\""));
+  EXPECT_EQ(statusAfterBreak(L"-setup C"), 128 + SIGBREAK);
+  EXPECT_TRUE(fs::is_empty(preferences));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 function helper() bind(c)
   integer(8) :: helper
-  character(4) :: text
-  write (text, '(i4)') 1234
+  character(4) :: text = '1234'
   read (text, *) helper
 end function

@@ -1,5 +1,5 @@
 subroutine zexfunction(answer)
-  use raised
+  use base
   integer(8) :: answer
-  answer = high
+  answer = low + 4
 end subroutine

@@ -1,3 +1,0 @@
-subroutine zexfunction
-  x = = 1
-end
