@@ -81,7 +81,7 @@ TEST_F(Query, ASelectedFileBesideACatalogueThatDoesNotFindItsCompilerIsResolved)
   tree.scratch.write("prefs/" + zex_test::selection, selected.xml());
   for (const CompilerRecord& record : zex.queryCompilers("c", "installed", architecture))
     EXPECT_EQ(record.at(u"Location"), u".");
-  EXPECT_EQ(query("c", "installed"), "123");
+  EXPECT_EQ(query("c", "installed"), "312");
 }
 
 TEST_F(Query, EmptyPriorityIsTheDefault) {
