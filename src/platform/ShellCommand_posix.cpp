@@ -1,7 +1,6 @@
-#include <cerrno>
+#include <string>
 
 #include "build/temporary/ZexTempFile.hpp"
-#include "fl/filesystem/streams.hpp"
 #include "fl/i18n/strings.hpp"
 #include "host/Services.hpp"
 #include "platform/ShellCommand.hpp"
@@ -12,17 +11,10 @@ namespace zex_cmd {
 
 namespace {
 
-/// Zero, or the system's error number where the script does not stand on the disk in full.
-int writeScript(const ZexTempFile& script, const ustring& text, const ZexTempFile& output,
-                const ZexTempFile& errors) {
+std::string scriptOf(const ustring& text, const ZexTempFile& output, const ZexTempFile& errors) {
   const ustring content = u"#!/bin/sh\n" + text + u" > " + quoteWhenNeeded(output.path()) + u" 2> " +
                           quoteWhenNeeded(errors.path()) + u"\n";
-  errno = 0;
-  fl::filesystem::basic_ofstream stream(script.path(), std::ios_base::out | std::ios_base::binary);
-  stream << fl::i18n::codecvt_ustring_to_string("UTF-8")(content);
-  stream.close();
-  if (stream) return 0;
-  return errno != 0 ? errno : EIO;
+  return fl::i18n::codecvt_ustring_to_string("UTF-8")(content);
 }
 
 /// The shell's own words begin with the path of a script that no user has heard of, and a line number.
@@ -44,12 +36,12 @@ host::ShellStatus runShellCommand(const ustring& text, ustring& standardOutput, 
   ZexTempFile output(true, {});
   ZexTempFile errors(true, {});
 
-  // All three ahead of the script's content, which tells the names of the other two.
-  for (ZexTempFile* file : {&script, &output, &errors}) {
-    if (const int failure = file->makeFile(); failure != 0) return host::ShellStatus::notStarted(failure);
+  // The script tells the names of the other two: they are there first.
+  for (ZexTempFile* capture : {&output, &errors}) {
+    if (const int failure = capture->makeFile(); failure != 0) return host::ShellStatus::notStarted(failure);
   }
   // Half a command could do anything.
-  if (const int failure = writeScript(script, text, output, errors); failure != 0)
+  if (const int failure = script.makeFile(scriptOf(text, output, errors)); failure != 0)
     return host::ShellStatus::notStarted(failure);
 
   const host::ShellResult result =

@@ -103,9 +103,9 @@ bool create_private_directories(const ustring& path) {
   return makeFolders(path, host::standalone::makePrivateFolders);
 }
 
-int create_private_file(const ustring& path) {
+int create_private_file(const ustring& path, std::string_view content) {
   std::error_code reason = std::make_error_code(std::errc::illegal_byte_sequence);
-  if (const auto native = nativePathIfAny(path)) host::standalone::makePrivateFile(*native, reason);
+  if (const auto native = nativePathIfAny(path)) host::standalone::makePrivateFile(*native, content, reason);
   return reason.value();
 }
 

@@ -8,15 +8,30 @@
 
 namespace host::standalone {
 
-void makePrivateFile(const std::filesystem::path& path, std::error_code& reason) {
+namespace {
+
+/// Zero, or the system's error number.
+int writeAll(int descriptor, std::string_view rest) {
+  while (!rest.empty()) {
+    const ssize_t count = write(descriptor, rest.data(), rest.size());
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return errno;
+    rest.remove_prefix(static_cast<std::size_t>(count));
+  }
+  return 0;
+}
+
+}  // namespace
+
+void makePrivateFile(const std::filesystem::path& path, std::string_view content, std::error_code& reason) {
   reason.clear();
   const int descriptor =
       open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR);
-  if (descriptor < 0) {
-    reason.assign(errno, std::generic_category());
-  } else {
-    close(descriptor);
-  }
+  int failure = descriptor < 0 ? errno : writeAll(descriptor, content);
+  // Some systems tell of a full disk no earlier.
+  if (descriptor >= 0 && close(descriptor) != 0 && failure == 0) failure = errno;
+  if (descriptor >= 0 && failure != 0) unlink(path.c_str());
+  reason.assign(failure, std::generic_category());
 }
 
 bool makePrivateFolders(const std::filesystem::path& path, std::error_code& reason) {

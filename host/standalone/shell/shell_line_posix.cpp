@@ -1,5 +1,6 @@
 #include <fcntl.h>
 #include <spawn.h>
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -34,8 +35,12 @@ int openUnnamedIn(const std::string& folder) {
   return descriptor;
 }
 
-/// In the first folder that takes it, in the order of the driver's own temporary files. -1: errno says why not.
+/// In memory, where the system can; else in the first folder that takes it, in the order of the driver's own
+/// temporary files. -1: errno says why not.
 int openUnnamed() {
+#ifdef MFD_CLOEXEC
+  if (const int descriptor = memfd_create("zex", MFD_CLOEXEC); descriptor >= 0) return descriptor;
+#endif
   for (const char* variable : temporaryFolderVariables) {
     const char* const folder = std::getenv(variable);
     if (folder == nullptr || *folder == '\0') continue;

@@ -53,8 +53,8 @@ ZexTempFile::ZexTempFile(bool isFile, const ustring& directory)
   path_ = fs::detail::make_native_form(path_);
 }
 
-int ZexTempFile::makeFile() {
-  const int failure = fs::create_private_file(path_);
+int ZexTempFile::makeFile(std::string_view content) {
+  const int failure = fs::create_private_file(path_, content);
   isOurs_ = failure == 0;
   return failure;
 }

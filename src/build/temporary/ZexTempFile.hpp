@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "fl/ustring.hpp"
 
 namespace zex_cmd {
@@ -19,9 +21,9 @@ class ZexTempFile {
 
   ustring path() const { return path_; }
 
-  /// Makes the file, empty and for the owner alone. Zero, or the system's error number, as for a name that is
-  /// taken: what lies there is another's, and is not removed at the end.
-  int makeFile();
+  /// Makes the file, for the owner alone. Zero, or the system's error number, as for a name that is taken: what
+  /// lies there is another's, and is not removed at the end.
+  int makeFile(std::string_view content = {});
 
  private:
   ustring path_;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <optional>
+#include <string_view>
 
 #include "fl/filesystem/exceptions.hpp"
 #include "fl/filesystem/file_status.hpp"
@@ -30,9 +31,9 @@ ZEXHOST_API bool create_directories(const ustring& path);
 /// link to one, was there.
 ZEXHOST_API bool create_private_directories(const ustring& path);
 
-/// Makes an empty file for the owner alone, whatever the umask. Zero, or the system's error number, as for a name
-/// that is taken: nothing is overwritten, and no link followed.
-ZEXHOST_API int create_private_file(const ustring& path);
+/// Makes a file for the owner alone, whatever the umask. Zero, or the system's error number, as for a name that is
+/// taken: nothing is overwritten, and no link followed. A file that cannot be written in full does not stay.
+ZEXHOST_API int create_private_file(const ustring& path, std::string_view content);
 
 /// For telling whether a file was written meanwhile. Both are zero where there is none.
 struct file_stamp {
