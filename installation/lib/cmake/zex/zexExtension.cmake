@@ -43,6 +43,8 @@ function(zex_add_extension name)
     set_target_properties(${name} PROPERTIES OUTPUT_NAME "${arg_OUTPUT_NAME}")
   endif()
 
+  # Every extension in Fortran writes the module of zex_fortran.f90.
+  set_target_properties(${name} PROPERTIES Fortran_MODULE_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/${name}_modules")
   target_include_directories(${name} PRIVATE "${ZEX_ROOT}/extern/include")
   _zex_define_interface(${name} "${arg_RELEASE}" "${arg_COMPATIBLE_ARRAY_DIMS}")
   _zex_set_compile_options(${name} "${arg_COMPATIBLE_ARRAY_DIMS}")
