@@ -16,6 +16,8 @@ else()
   set(ZEX_ARCH glnxa64)
 endif()
 
+set(ZEX_EXTENSION_SUFFIX .${ZEX_PLATFORM_TAG})
+
 # The tree that runs in place; `cmake --install` writes the same one to a prefix.
 set(ZEX_TREE ${CMAKE_BINARY_DIR}/tessel)
 set(ZEX_TREE_BIN ${ZEX_TREE}/bin/${ZEX_ARCH})

@@ -3,10 +3,12 @@
 #include <cstdio>
 #include <optional>
 
+#include "expected_values.hpp"
 #include "fl/i18n/strings.hpp"
 #include "korvane/TException.hpp"
 #include "output.hpp"
 #include "printed_values.hpp"
+#include "product_check.hpp"
 #include "program.hpp"
 #include "standalone/products/LoadedProducts.hpp"
 #include "standalone/shell/interrupts.hpp"
@@ -15,7 +17,9 @@
 
 namespace {
 
-constexpr char usage[] = "usage: zexrun PRODUCT [VALUE...] [-nlhs N] [--json]";
+constexpr char usage[] =
+    "usage: zexrun PRODUCT [VALUE...] [-nlhs N] [--json] [--expects VALUE...]\n"
+    "       zexrun --check PRODUCT";
 
 constexpr char help[] =
     "\n\nCalls the extension PRODUCT with the values and prints what it returns.\n\n"
@@ -23,14 +27,36 @@ constexpr char help[] =
     "         a text (\"'abc'\"), or one of these as another kind (\"int8([1 2])\")\n"
     "-nlhs N  ask for N outputs; the default is 0, and a first one is shown if given\n"
     "--json   print the outputs for programs; what the extension prints goes to\n"
-    "         standard error\n";
+    "         standard error\n"
+    "--expects VALUE\n"
+    "         ask for one output more and fail unless it is VALUE; the first --expects\n"
+    "         stands for the first output, and so on\n"
+    "--tolerance T\n"
+    "         how far a number may lie off the expected one, relative to numbers above 1\n"
+    "--check  compare the interface records in PRODUCT, as zex does after a link; nothing\n"
+    "         is loaded, so it may be a product for another system\n";
 
 struct Request {
   fl::ustring product;
   std::vector<tool::Value> inputs;
+  std::vector<tool::Value> expected;
+  double tolerance = 0;
   int outputs = 0;
   bool json = false;
 };
+
+using Words = std::vector<fl::ustring>;
+
+std::string textOf(const fl::ustring& word) {
+  return fl::i18n::codecvt_ustring_to_string("UTF-8")(word);
+}
+
+/// The word behind a switch, to which `word` moves on.
+const fl::ustring& wordBehind(Words::const_iterator& word, const Words& arguments) {
+  const std::string name = textOf(*word);
+  if (++word == arguments.end()) throw tool::UsageError(name + " needs a value behind it");
+  return *word;
+}
 
 int countOf(const fl::ustring& text) {
   constexpr int mostOutputs = 1000;
@@ -43,21 +69,25 @@ int countOf(const fl::ustring& text) {
   return count;
 }
 
-Request requestOf(const std::vector<fl::ustring>& arguments) {
+Request requestOf(const Words& arguments) {
   Request request;
   for (auto word = arguments.begin(); word != arguments.end(); ++word) {
     if (*word == u"--json") {
       request.json = true;
     } else if (*word == u"-nlhs") {
-      if (++word == arguments.end()) throw tool::UsageError("-nlhs needs a number behind it");
-      request.outputs = countOf(*word);
+      request.outputs = countOf(wordBehind(word, arguments));
+    } else if (*word == u"--expects") {
+      request.expected.push_back(tool::parsedValue(textOf(wordBehind(word, arguments))));
+    } else if (*word == u"--tolerance") {
+      request.tolerance = tool::parsedTolerance(textOf(wordBehind(word, arguments)));
     } else if (request.product.empty()) {
       request.product = *word;
     } else {
-      request.inputs.push_back(tool::parsedValue(fl::i18n::codecvt_ustring_to_string("UTF-8")(*word)));
+      request.inputs.push_back(tool::parsedValue(textOf(*word)));
     }
   }
   if (request.product.empty()) throw tool::UsageError(usage);
+  request.outputs = std::max(request.outputs, static_cast<int>(request.expected.size()));
   return request;
 }
 
@@ -90,9 +120,23 @@ tool::NamedValues namedOutputs(const std::vector<tool::Value>& outputs, const Re
   return named;
 }
 
-void runExtension(const std::vector<fl::ustring>& arguments) {
+void compareOutputs(const std::vector<tool::Value>& outputs, const Request& request) {
+  for (std::size_t index = 0; index < request.expected.size(); ++index) {
+    const zxArray* const expected = request.expected[index].get();
+    if (tool::isAsExpected(outputs[index].get(), expected, request.tolerance)) continue;
+    const std::string name = "ans" + std::to_string(index + 1);
+    throw Korvane::TException::HostError(
+        "TESSEL:zexrun:OutputDiffers", fl::i18n::to_ustring("Expected was " + tool::printed({{name, expected}})));
+  }
+}
+
+void runExtension(const Words& arguments) {
   if (arguments.size() == 1 && (arguments.front() == u"-help" || arguments.front() == u"-h")) {
     std::printf("%s%s", usage, help);
+    return;
+  }
+  if (arguments.size() == 2 && arguments.front() == u"--check") {
+    tool::checkProduct(arguments.back());
     return;
   }
   const Request request = requestOf(arguments);
@@ -109,6 +153,7 @@ void runExtension(const std::vector<fl::ustring>& arguments) {
   } else if (!kept->write(tool::jsonOf(named))) {
     throw Korvane::TException::HostError("TESSEL:zexrun:OutputNotWritten", u"Cannot write to standard output.");
   }
+  compareOutputs(outputs, request);
 }
 
 }  // namespace
