@@ -45,6 +45,16 @@ TEST_F(Setup, WritesTheDocumentWithoutItsValuesForThisCommandWhereTheOptionsFile
   }
 }
 
+TEST_F(Setup, ADocumentWhoseCompilerHasNoTwinIsWrittenUnresolvedToo) {
+  Document document = compiler("1", "A");
+  document.shortName = "lcc64";
+  tree.offer("a.xml", document);
+  EXPECT_EQ(setup({u"-setup"}), "no error");
+  const ZexOpt saved(tree.scratch.path("prefs/" + selection), "", u"", false);
+  EXPECT_EQ(saved.detail(u"OptimizationFlags"), u"$OPTFLAGS");
+  EXPECT_FALSE(saved.variable(u"OBJ"));
+}
+
 TEST_F(Setup, SeveralCompilersAreListedBehindTheConfiguredOne) {
   std::vector<Document> documents = {compiler("2", "B"), compiler("1", "A"), compiler("3", "0", false)};
   for (Document& document : documents) document.client = "<ENGINE/>";

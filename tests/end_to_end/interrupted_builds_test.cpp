@@ -62,13 +62,4 @@ TEST_F(EndToEnd, APipeInThePlaceOfADocumentIsNotWaitedFor) {
   EXPECT_EQ(shell("mkfifo pipe.xml; timeout 20 \"$ZEX\" -f pipe.xml value.c").status, 1);
 }
 
-TEST_F(EndToEnd, ALimitOfFileSizesLeavesTheFormerChoice) {
-  ASSERT_EQ(shell("\"$ZEX\" -setup:gcc C").status, 0);
-  const std::string chosen = contentOf("../prefs/zex_C_glnxa64.xml");
-  const Outcome outcome = shell("ulimit -f 1; \"$ZEX\" -setup:\"$OPTS/gcc.xml\" C -f ../prefs/");
-  EXPECT_EQ(outcome.status, 1);
-  EXPECT_THAT(outcome.err, testing::HasSubstr("TESSEL:zex:XMLWriteFailed"));
-  EXPECT_EQ(contentOf("../prefs/zex_C_glnxa64.xml"), chosen);
-}
-
 }  // namespace end_to_end
