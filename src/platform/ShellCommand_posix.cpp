@@ -1,6 +1,7 @@
 #include <cerrno>
 
 #include "build/temporary/ZexTempFile.hpp"
+#include "cmd/messages/raise.hpp"
 #include "fl/filesystem/streams.hpp"
 #include "fl/i18n/strings.hpp"
 #include "host/Services.hpp"
@@ -11,6 +12,10 @@
 namespace zex_cmd {
 
 namespace {
+
+ZexTempFile captureFile() {
+  return ZexTempFile(true, {});
+}
 
 /// Zero, or the system's error number where the script does not stand on the disk in full.
 int writeScript(const ZexTempFile& script, const ustring& text, const ZexTempFile& output,
@@ -40,9 +45,9 @@ host::ShellStatus runShellCommand(const ustring& text, ustring& standardOutput, 
                                   bool calledFromHost) {
   standardOutput.clear();
   standardError.clear();
-  const ZexTempFile script(true, {});
-  const ZexTempFile output(true, {});
-  const ZexTempFile errors(true, {});
+  const ZexTempFile script = inWords(captureFile);
+  const ZexTempFile output = inWords(captureFile);
+  const ZexTempFile errors = inWords(captureFile);
 
   // Half a command could do anything.
   if (const int failure = writeScript(script, text, output, errors); failure != 0)

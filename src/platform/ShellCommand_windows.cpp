@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include "build/temporary/ZexTempFile.hpp"
+#include "cmd/messages/raise.hpp"
 #include "fl/filesystem/operations.hpp"
 #include "fl/i18n/environment.hpp"
 #include "host/Services.hpp"
@@ -11,6 +12,10 @@
 namespace zex_cmd {
 
 namespace {
+
+ZexTempFile captureFile() {
+  return ZexTempFile(true, {});
+}
 
 /// The shell cannot work in a network folder; "pushd" maps a drive for the time of the command. Its argument
 /// stays unquoted.
@@ -51,8 +56,8 @@ host::ShellStatus runProcess(ustring commandLine) {
 
 host::ShellStatus runShellCommand(const ustring& text, ustring& standardOutput, ustring& standardError,
                                   bool /*calledFromHost*/) {
-  const ZexTempFile output(true, {});
-  const ZexTempFile errors(true, {});
+  const ZexTempFile output = inWords(captureFile);
+  const ZexTempFile errors = inWords(captureFile);
   const ustring line =
       u"( " + text + u" ) > " + quoteWhenNeeded(output.path()) + u" 2> " + quoteWhenNeeded(errors.path());
 

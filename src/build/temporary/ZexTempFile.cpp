@@ -5,7 +5,6 @@
 #include "build/temporary/process_number.hpp"
 #include "build/temporary/time_stamp.hpp"
 #include "cmd/messages/ZexConfigPerTVM.hpp"
-#include "cmd/messages/raise.hpp"
 #include "cmd/messages/verbose_lines.hpp"
 #include "fl/filesystem/exceptions.hpp"
 #include "fl/filesystem/operations.hpp"
@@ -32,9 +31,7 @@ ustring firstSetFolder() {
 
 ustring systemTempDirectory() {
   const ustring folder = firstSetFolder();
-  inWords([&] {
-    if (!fs::is_directory(fs::status(folder))) fs::create_directories(folder);
-  });
+  if (!fs::is_directory(fs::status(folder))) fs::create_directories(folder);
   return folder;
 }
 
