@@ -1,6 +1,7 @@
 #include <string>
 
 #include "build/temporary/ZexTempFile.hpp"
+#include "cmd/messages/raise.hpp"
 #include "fl/i18n/strings.hpp"
 #include "host/Services.hpp"
 #include "platform/ShellCommand.hpp"
@@ -10,6 +11,10 @@
 namespace zex_cmd {
 
 namespace {
+
+ZexTempFile captureFile() {
+  return ZexTempFile(true, {});
+}
 
 std::string scriptOf(const ustring& text, const ZexTempFile& output, const ZexTempFile& errors) {
   const ustring content = u"#!/bin/sh\n" + text + u" > " + quoteWhenNeeded(output.path()) + u" 2> " +
@@ -32,9 +37,9 @@ host::ShellStatus runShellCommand(const ustring& text, ustring& standardOutput, 
                                   bool calledFromHost) {
   standardOutput.clear();
   standardError.clear();
-  ZexTempFile script(true, {});
-  ZexTempFile output(true, {});
-  ZexTempFile errors(true, {});
+  ZexTempFile script = inWords(captureFile);
+  ZexTempFile output = inWords(captureFile);
+  ZexTempFile errors = inWords(captureFile);
 
   // The script tells the names of the other two: they are there first.
   for (ZexTempFile* capture : {&output, &errors}) {

@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include "build/temporary/ZexTempFile.hpp"
+#include "cmd/messages/raise.hpp"
 #include "fl/filesystem/operations.hpp"
 #include "fl/i18n/environment.hpp"
 #include "host/Services.hpp"
@@ -11,6 +12,10 @@
 namespace zex_cmd {
 
 namespace {
+
+ZexTempFile captureFile() {
+  return ZexTempFile(true, {});
+}
 
 /// The shell cannot work in a network folder; "pushd" maps a drive for the time of the command. Its argument
 /// stays unquoted.
@@ -53,8 +58,8 @@ host::ShellStatus runShellCommand(const ustring& text, ustring& standardOutput, 
                                   bool /*calledFromHost*/) {
   standardOutput.clear();
   standardError.clear();
-  ZexTempFile output(true, {});
-  ZexTempFile errors(true, {});
+  ZexTempFile output = inWords(captureFile);
+  ZexTempFile errors = inWords(captureFile);
   // Ahead of the line, which tells their names.
   for (ZexTempFile* file : {&output, &errors}) {
     if (const int failure = file->makeFile(); failure != 0) return host::ShellStatus::notStarted(failure);

@@ -4,7 +4,6 @@
 
 #include "build/temporary/unique_numbers.hpp"
 #include "cmd/messages/ZexConfigPerTVM.hpp"
-#include "cmd/messages/raise.hpp"
 #include "cmd/messages/verbose_lines.hpp"
 #include "fl/filesystem/exceptions.hpp"
 #include "fl/filesystem/operations.hpp"
@@ -32,9 +31,7 @@ ustring firstSetFolder() {
 
 ustring systemTempDirectory() {
   const ustring folder = firstSetFolder();
-  inWords([&] {
-    if (!fs::is_directory(fs::status(folder))) fs::create_private_directories(folder);
-  });
+  if (!fs::is_directory(fs::status(folder))) fs::create_private_directories(folder);
   return folder;
 }
 
