@@ -26,11 +26,12 @@ class ZEXHOST_API StandaloneServices : public Services {
   Tdispatcher* dispatcher() override { return dispatcher_; }
 
   /// One line at a time in a process: another thread that comes meanwhile waits. While the line runs, SIGINT,
-  /// SIGTERM, SIGHUP and SIGQUIT that reach this process go to the line's process group, which is then waited for and,
-  /// after three seconds, killed; SIGTSTP stops that group together with this process. A handler that was there
-  /// before is called when the line has ended; a default action is not taken, so that the caller unwinds. A signal
-  /// that was ignored stays so, for the line too. Every other signal has its default action in the line. Raises
-  /// Interrupted where installInterruptHandlers was called and a signal was noted before or during the line.
+  /// SIGTERM, SIGHUP and SIGQUIT that reach this process go to the line's process group, which is then waited for
+  /// and, after three seconds, killed; SIGTSTP stops that group together with this process. A handler that was
+  /// there before is called when the line has ended; a default action is not taken, so that the caller unwinds. A
+  /// signal that was ignored stays so, for the line too. Every other signal but SIGXFSZ has its default action in
+  /// the line. Raises Interrupted where installInterruptHandlers was called and a signal was noted before or
+  /// during the line.
   ShellResult runShellLine(const fl::ustring& line, bool calledFromHost) override;
 
   /// Raises Interrupted where installInterruptHandlers was called and an interrupt was noted.

@@ -99,6 +99,8 @@ class SpawnSettings {
     posix_spawnattr_init(&attributes_);
     posix_spawnattr_setsigmask(&attributes_, &signals);
     sigfillset(&signals);
+    // Where it is ignored, a tool can say what it could not write, and remove it; else it would be killed for it.
+    sigdelset(&signals, SIGXFSZ);
     for (const int signal : SignalForwarding::signals) {
       if (forwarding.isIgnored(signal)) sigdelset(&signals, signal);
     }
