@@ -109,4 +109,8 @@ std::string replaced(std::string text, const std::string& from, const std::strin
   return text;
 }
 
+std::string gccDocument(const std::string& from, const std::string& to) {
+  return replaced(contentOf(program("zexopts") / "gcc.xml"), from, to);
+}
+
 }  // namespace end_to_end

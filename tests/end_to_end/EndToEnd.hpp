@@ -66,6 +66,9 @@ void write(const std::filesystem::path& file, const std::string& content);
 /// A text with each occurrence of another one replaced; a failure if there is none.
 std::string replaced(std::string text, const std::string& from, const std::string& to);
 
+/// Text of the shipped document of gcc with a text replaced.
+std::string gccDocument(const std::string& from, const std::string& to);
+
 // --- What differs between the systems ---
 
 /// The status of a line of the system's shell, which leaves its texts in the files "out" and "err" above the

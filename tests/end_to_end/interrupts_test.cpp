@@ -8,8 +8,7 @@ TEST_F(EndToEnd, InterruptsEndTheToolAndTheProgramAndLeaveNothing) {
     int status;
   } const rows[] = {{"-INT -$zex", 130}, {"-INT $zex", 130}, {"-TERM $zex", 143}};
   write("slow.sh", "echo $$ > new.pid; mv new.pid tool.pid; exec sleep 600");
-  write("slow.xml", replaced(contentOf(program("zexopts") / "gcc.xml"), "COMPILER='\"$GCC_PROGRAM\"'",
-                             "COMPILER='sh ./slow.sh'"));
+  write("slow.xml", gccDocument("COMPILER='\"$GCC_PROGRAM\"'", "COMPILER='sh ./slow.sh'"));
   for (const auto& row : rows) {
     // A shell in the background ignores interrupts and hands that on.
     const Outcome outcome = shell(
