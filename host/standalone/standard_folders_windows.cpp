@@ -34,7 +34,8 @@ fl::ustring folderTreeOfThisLibrary() {
 
 fl::ustring userPreferencesFolder() {
   const fl::ustring home = fl::i18n::getenv("APPDATA");
-  if (home.empty()) throw fl::filesystem::PathNotFound("no folder for the preferences: set TESSEL_PREFDIR or APPDATA");
+  if (home.empty())
+    throw fl::filesystem::PathNotFound("no folder for the preferences: set TESSEL_PREFDIR or APPDATA");
   return fl::filesystem::detail::concatenate_pathname(home, u"TESSEL\\R2018a");
 }
 

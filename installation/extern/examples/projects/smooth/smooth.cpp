@@ -1,5 +1,5 @@
-// A signal, smoothed by a triangular window; beyond its ends it counts as zero. An extension of several sources, with
-// build files for CMake, make and Meson beside it.
+// A signal, smoothed by a triangular window; beyond its ends it counts as zero. An extension of several sources,
+// with build files for CMake, make and Meson beside it.
 //
 //     zexrun smooth.zexa64 "[0 0 4 0 0]" 3      [0 1 2 1 0]
 
