@@ -26,9 +26,7 @@ MISTAKES = (
     ("zex_add_extension(a a.c)", "stand behind SOURCES"),
     ("zex_add_extension(a)", "there is no source"),
     ("zex_add_extension(a SOURCES a.cpp)", r"enable_language\(CXX\)"),
-    ("zex_add_extension(a SOURCES a.c RELEASE R2016a)", "R2017b or R2018a"),
     ("zex_add_extension(a SOURCES a.c RELEASE R2018a COMPATIBLE_ARRAY_DIMS)", "Keep one of them"),
-    ("zex_add_extension(a SOURCES a.c CLIENT NOBODY)", "ENGINE, ZBUILD or ZBUILD_COM"),
     ("zex_add_test(NAME t EXTENSION a EXPECTS 1)", "no target"),
 )
 
