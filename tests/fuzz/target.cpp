@@ -5,24 +5,9 @@
 #include <filesystem>
 #include <fstream>
 
+#include "support/Scratch.hpp"
+
 namespace zex_fuzz {
-
-namespace fs = std::filesystem;
-
-namespace {
-
-std::string& folderName() {
-  static std::string name;
-  return name;
-}
-
-void removeFolder() {
-  std::error_code ignored;
-  fs::current_path("/", ignored);
-  fs::remove_all(folderName(), ignored);
-}
-
-}  // namespace
 
 void demand(bool condition, const char* words) {
   if (condition) return;
@@ -31,11 +16,9 @@ void demand(bool condition, const char* words) {
 }
 
 void enterFolder() {
-  const fs::path memory = fs::is_directory("/dev/shm") ? fs::path("/dev/shm") : fs::temp_directory_path();
-  folderName() = (memory / "zex_fuzz_XXXXXX").string();
-  demand(mkdtemp(folderName().data()) != nullptr, "no folder to work in");
-  fs::current_path(folderName());
-  std::atexit(removeFolder);
+  static const zex_test::ScopedVariable memory("TMPDIR",
+                                               std::filesystem::exists("/dev/shm") ? "/dev/shm" : "/tmp");
+  static const zex_test::Scratch folder;
 }
 
 void writeFile(const std::string& name, std::string_view content) {
