@@ -140,7 +140,9 @@ TEST_P(Builds, GiveALoadableProductAndNothingElse) {
   const std::string bits = row.arguments.find("-compatible") == std::string::npos ? "64" : "32";
   const std::string content = contentOf(product);
   EXPECT_THAT(content, HasSubstr("kind=driver release=R2017b dims=" + bits + " cmd=1;"));
-  if (row.arguments.starts_with("-g")) EXPECT_THAT(content, HasSubstr(work.string())) << "debug lines";
+  if (row.arguments.starts_with("-g")) {
+    EXPECT_THAT(content, HasSubstr(work.string())) << "debug lines";
+  }
   if (target.isWindows()) expectHeaders(product, row);
   if (!isLong) expectSameByTheCommandsOf(arguments, product);
   if (!canCall()) GTEST_SKIP() << "no Wine, or no compiler when the build was configured: nothing was called";
