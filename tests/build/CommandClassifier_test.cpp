@@ -56,7 +56,8 @@ TEST_F(CommandClassifierTest, ResponseFilesServeCompilesAndLinksFromEightThousan
   record.command = u"tool a\\b";
   for (const auto& [manufacturer, content] : {std::pair("GNU", " a/b"), {"Other", " a\\b"}}) {
     record.option = documentOf(manufacturer);
-    EXPECT_EQ(responseFileCommand(record, u"tmp").command, u"tool @tmp/zex_temp.rsp");
+    EXPECT_EQ(zex_test::told(zex_test::utf8(responseFileCommand(record, u"tmp").command)),
+              "tool @tmp/zex_temp.rsp");
     EXPECT_EQ(tree.scratch.read("tmp/zex_temp.rsp"), content);
   }
 }
