@@ -136,7 +136,7 @@ zxComplex* elementsToFill(zxArray* array) {
 Value arrayOf(zxKind kind, const Matrix& matrix, const std::string& argument) {
   Value array(zxMake(kind, static_cast<zxIndex>(matrix.rows), static_cast<zxIndex>(matrix.columns)));
   zx::withElementType(kind, [&]<class Element>(std::type_identity<Element>) {
-    Element* const to = elementsToFill<Element>(array.get());
+    auto* const to = elementsToFill<Element>(array.get());
     for (std::size_t index = 0; index < matrix.elements.size(); ++index) {
       const std::optional<Element> element = elementOf<Element>(matrix.elements[index]);
       if (!element) refuse(argument, "'" + matrix.elements[index] + "' cannot be read as " + nameOf(kind));

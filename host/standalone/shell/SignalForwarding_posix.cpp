@@ -26,10 +26,10 @@ constexpr unsigned bitOf(int signal) {
   return 1U << static_cast<unsigned>(signal);
 }
 
-struct sigaction actionOf(void (*handler)(int), int flags) {
+struct sigaction actionOf(void (*handler)(int), unsigned flags) {
   struct sigaction action {};
   action.sa_handler = handler;
-  action.sa_flags = flags;
+  action.sa_flags = static_cast<int>(flags);
   sigemptyset(&action.sa_mask);
   return action;
 }

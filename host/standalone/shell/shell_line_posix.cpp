@@ -138,6 +138,7 @@ using Start = decltype(posix_spawn);
 int startBy(Start start, const char* program, std::vector<std::string> words, const SpawnSettings& settings,
             pid_t& child) {
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
   return start(&child, program, settings.files(), settings.attributes(), arguments.data(), environ);
