@@ -5,7 +5,6 @@
 
 #include "cmd/Zex.hpp"
 #include "fl/filesystem/operations.hpp"
-#include "fl/i18n/strings.hpp"
 #include "fuzz/target.hpp"
 #include "support/RecordingServices.hpp"
 
@@ -22,8 +21,6 @@ class AnsweringServices : public zex_test::RecordingServices {
 
 bool prepare() {
   enterFolder();
-  const std::string here = fl::i18n::to_string(fl::filesystem::get_current_path());
-  setenv("TMPDIR", here.c_str(), 1);
   unsetenv("TESSEL_PREFDIR");
   fl::filesystem::create_directories(u"extern/version");
   for (const char* name : {"a.c", "b.c", "extern/version/c_zexapi_version.c",

@@ -1,9 +1,5 @@
 // Saved selections: what was written reads back, value by value.
 
-#include <cstdlib>
-
-#include "fl/filesystem/operations.hpp"
-#include "fl/i18n/strings.hpp"
 #include "fuzz/target.hpp"
 #include "options/ZexOpt.hpp"
 #include "support/RecordingServices.hpp"
@@ -17,16 +13,10 @@ class SilentServices : public zex_test::RecordingServices {
   host::ShellResult runShellLine(const fl::ustring&, bool) override { return {0, u"/opt/the \"tool\"\n"}; }
 };
 
-bool prepare() {
-  enterFolder();
-  setenv("TMPDIR", fl::i18n::to_string(fl::filesystem::get_current_path()).c_str(), 1);
-  return true;
-}
-
 }  // namespace
 
 void tryInput(std::string_view input) {
-  static const bool prepared = prepare();
+  static const bool prepared = enterFolder();
   if (!prepared) return;
   writeFile("doc.xml", input);
   SilentServices host;

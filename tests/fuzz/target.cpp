@@ -15,10 +15,12 @@ void demand(bool condition, const char* words) {
   std::abort();
 }
 
-void enterFolder() {
+bool enterFolder() {
   static const zex_test::ScopedVariable memory("TMPDIR",
                                                std::filesystem::exists("/dev/shm") ? "/dev/shm" : "/tmp");
   static const zex_test::Scratch folder;
+  setenv("TMPDIR", folder.folder().c_str(), 1);
+  return true;
 }
 
 void writeFile(const std::string& name, std::string_view content) {

@@ -13,8 +13,9 @@ void tryInput(std::string_view input);
 /// Ends the process with the words where the condition does not hold.
 void demand(bool condition, const char* words);
 
-/// A folder in memory of this process alone, the current one, in which a target may do as it likes.
-void enterFolder();
+/// A folder in memory of this process alone, the current and the temporary one, in which a target may do as it
+/// likes. Gives true.
+bool enterFolder();
 
 void writeFile(const std::string& name, std::string_view content);
 
